@@ -1,0 +1,56 @@
+#pragma once
+
+#include "vkintensitywidget_export.h"
+
+#include <QPixmap>
+#include <QString>
+#include <QWidget>
+
+class CVKIntensityMdiWidget;
+
+/// Shows one camera image with everything needed to examine its intensity: canvas with cross-hair,
+/// row and column profiles, rulers, palette bar, and the panel column on the left.
+///
+/// The one exported class of the library; use it on the GUI thread only. Close the image before
+/// each load: a load on top of an open image connects everything once more. The skin images come
+/// from the host application's Qt resources; a missing one leaves its part unpainted. The palette
+/// files and all diagnostics are silent: `false` is all that a failed load says.
+class VKINTENSITYWIDGET_EXPORT CVKIntensityWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Deletes itself when closed (Qt::WA_DeleteOnClose).
+    explicit CVKIntensityWidget(QWidget* parent = nullptr);
+    ~CVKIntensityWidget() override;
+
+    /// Loads the image file `path`, picking the reader by its suffix (jpg, jpeg, tif, tiff, bmp,
+    /// png, raw; any case), and shows it. False, with everything as it was, for a missing file, an
+    /// unknown suffix or data that cannot be read as that format; nothing is thrown or logged.
+    bool loadImage(const QString& path);
+
+    /// Forgets the image. The canvas keeps showing the last picture until the next load. Without
+    /// an image nothing happens.
+    void closeImage();
+
+    /// Logical dots per inch of the primary screen over 96.
+    float getDpiMultiple();
+
+Q_SIGNALS:
+    /// For the host application; the widget itself never emits it.
+    void sglChangeSize();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    bool createIntensityUI();
+
+    QString m_applicationDirectory;
+    QPixmap m_sparePixmap;
+    QPixmap m_headerSkin;
+    QPixmap m_bodySkin;
+    QPixmap m_borderSkin;
+    CVKIntensityMdiWidget* m_host = nullptr;
+};
