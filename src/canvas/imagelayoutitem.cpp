@@ -1,0 +1,269 @@
+#include "canvas/imagelayoutitem.h"
+
+#include "canvas/displaypixmap.h"
+#include "image/saturate.h"
+
+#include <QDebug>
+#include <QGraphicsSceneMouseEvent>
+#include <QGraphicsSceneWheelEvent>
+#include <QImage>
+#include <QMutexLocker>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace {
+constexpr double zoomFactor = 1.5;
+}
+
+ImageLayoutItem::ImageLayoutItem(QImage* displayImage, QGraphicsItem* parent)
+    : ComponentWithBordersItem(parent)
+    , cross(this)
+{
+    setGraphicsItem(this);
+    setFlag(QGraphicsItem::ItemClipsChildrenToShape, true);
+    setSize(400.0, 400.0);
+    setImage(displayImage);
+}
+
+ImageLayoutItem::~ImageLayoutItem()
+{
+    setGraphicsItem(nullptr);
+}
+
+bool ImageLayoutItem::hasImage() const
+{
+    return image && !image->isNull();
+}
+
+/// Zooming and scrolling need a content to show the image in and a scale to divide by.
+bool ImageLayoutItem::canChangeView() const
+{
+    return hasImage() && scale > 0.0 && !size.isEmpty();
+}
+
+ViewFrame ImageLayoutItem::viewFrame() const
+{
+    return ViewFrame { size, image->size(), anchor, double(cross.halfLength) };
+}
+
+void ImageLayoutItem::setImage(QImage* displayImage)
+{
+    {
+        QMutexLocker locker(&mutex);
+        image = displayImage;
+        if (!hasImage()) {
+            return;
+        }
+        refreshPixmap();
+    }
+    computeScales();
+    fit();
+    moveCross();
+    resetAnchor();
+}
+
+/// To be called with the mutex held.
+void ImageLayoutItem::refreshPixmap()
+{
+    copyToPixmap(*image, pixmap);
+}
+
+void ImageLayoutItem::updateImage()
+{
+    {
+        QMutexLocker locker(&mutex);
+        if (hasImage()) {
+            refreshPixmap();
+        }
+    }
+    update();
+}
+
+void ImageLayoutItem::sizeChanged()
+{
+    adaptContentToImage();
+    computeScales();
+    fit();
+    moveCross();
+}
+
+void ImageLayoutItem::adaptContentToImage()
+{
+    if (!hasImage()) {
+        return;
+    }
+    const QSize content = contentSizeFor(size, image->size());
+    qDebug(
+        "[changeContentsSize]con width: %d, con height: %d\n", content.width(), content.height());
+    size = content; // not through setSize(), which would come back here
+    setGeometry(QRectF(0.0, 0.0, size.width() + borderWidth, size.height() + borderWidth));
+}
+
+void ImageLayoutItem::computeScales()
+{
+    if (!hasImage()) {
+        return;
+    }
+    minScale = fittingScale(size, image->size());
+    maxScale = cross.halfLength * 2.0;
+    Q_EMIT changeImageSize(image->size());
+}
+
+void ImageLayoutItem::fit()
+{
+    if (!hasImage()) {
+        return;
+    }
+    scale = minScale;
+    showView(QRectF(0.0, 0.0, image->width(), image->height()));
+}
+
+void ImageLayoutItem::zoomIn()
+{
+    if (maxScale > scale) {
+        zoomTo(scale * zoomFactor);
+    }
+}
+
+void ImageLayoutItem::zoomOut()
+{
+    if (scale > minScale) {
+        zoomTo(scale / zoomFactor);
+    }
+}
+
+void ImageLayoutItem::zoomTo(double wanted)
+{
+    if (!canChangeView()) {
+        return;
+    }
+    const double limited = std::min(std::max(wanted, minScale), maxScale);
+    if (!(limited > 0.0)) {
+        return;
+    }
+    const ImageView view
+        = zoomedView(ImageView { scale, drawRect }, limited, viewFrame(), cross.position);
+    scale = view.scale;
+    showView(view.visible);
+}
+
+void ImageLayoutItem::scrollDistanceVertical(int distance)
+{
+    scroll(distance, Qt::Vertical);
+}
+
+void ImageLayoutItem::scrollDistanceHorizontal(int distance)
+{
+    scroll(distance, Qt::Horizontal);
+}
+
+void ImageLayoutItem::scroll(int distance, Qt::Orientation orientation)
+{
+    if (distance == 0 || !canChangeView()) {
+        return;
+    }
+    QRectF visible(roundedPoint(drawRect.topLeft()), roundedSize(drawRect.size()));
+    if (orientation == Qt::Horizontal) {
+        const ScrollStep step = scrolledSpan(distance, scale, int(visible.x()),
+            int(visible.width()), image->width(), anchor.x(), cross.halfLength);
+        anchor.setX(step.anchor);
+        visible.moveLeft(step.origin);
+    } else {
+        const ScrollStep step = scrolledSpan(distance, scale, int(visible.y()),
+            int(visible.height()), image->height(), anchor.y(), cross.halfLength);
+        anchor.setY(step.anchor);
+        visible.moveTop(step.origin);
+    }
+    const QImage* const scrolled = image;
+    Q_EMIT changeAnchorImagePosition(anchor);
+    if (image == scrolled && hasImage()) { // a receiver may have taken the image away
+        showView(visible);
+    }
+}
+
+/// Shows the part `visible` of the image at the present scale and announces it.
+void ImageLayoutItem::showView(const QRectF& visible)
+{
+    drawRect = visible;
+    moveCross();
+    if (!hasImage()) {
+        return;
+    }
+    Q_EMIT changeDrawRect(drawRect);
+    update();
+}
+
+void ImageLayoutItem::resetAnchor()
+{
+    if (hasImage()) {
+        anchor = QPointF(image->width() / 2, image->height() - 1);
+    }
+    moveCross();
+    Q_EMIT changeAnchorImagePosition(anchor);
+}
+
+void ImageLayoutItem::moveCross()
+{
+    placeCross(snappedToPixel(mapPointFromImage(anchor, drawRect, size), scale, size));
+}
+
+void ImageLayoutItem::placeCross(const QPointF& position)
+{
+    cross.moveTo(position);
+    Q_EMIT changeAnchorPosition(position);
+}
+
+QPointF ImageLayoutItem::imagePixelAt(const QPointF& point) const
+{
+    if (!hasImage() || size.isEmpty()) {
+        return QPointF(0.0, 0.0);
+    }
+    const QPoint pixel = mapPointToImage(point, drawRect, size);
+    qDebug("[mapToPixel]sacle: %.5f, anchor[%.1f, %.1f], pos[%d, %d]\n", scale, point.x(),
+        point.y(), pixel.x(), pixel.y());
+    return pixel;
+}
+
+void ImageLayoutItem::mousePressEvent(QGraphicsSceneMouseEvent* event)
+{
+    const qreal border = borderWidth;
+    const QRectF sensitive(border, border, size.width() - border, size.height() - border);
+    if (event->buttons() == Qt::LeftButton && sensitive.contains(event->pos())) {
+        const QPointF position = snappedToPixel(event->pos(), scale, size);
+        anchor = imagePixelAt(position - QPointF(border, border));
+        placeCross(position);
+        Q_EMIT changeAnchorImagePosition(anchor);
+        update();
+    }
+    QGraphicsItem::mousePressEvent(event);
+}
+
+void ImageLayoutItem::wheelEvent(QGraphicsSceneWheelEvent* event)
+{
+    // Deliberate: a delta of 0, as some trackpads send, zooms out like a negative one.
+    if (event->delta() >= 1) {
+        zoomIn();
+    } else {
+        zoomOut();
+    }
+}
+
+void ImageLayoutItem::drawContents(QPainter* painter)
+{
+    QMutexLocker locker(&mutex);
+    if (hasImage() && !pixmap.isNull()) {
+        painter->drawPixmap(
+            QRectF(borderWidth, borderWidth, size.width(), size.height()), pixmap, drawRect);
+    }
+}
+
+void ImageLayoutItem::setGeometry(const QRectF& rect)
+{
+    placeInLayout(*this, rect);
+}
+
+QSizeF ImageLayoutItem::sizeHint(Qt::SizeHint which, const QSizeF& constraint) const
+{
+    return layoutSizeHint(which, constraint);
+}
