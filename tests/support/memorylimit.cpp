@@ -1,0 +1,46 @@
+#include "support/memorylimit.h"
+
+#if defined(__SANITIZE_ADDRESS__)
+#define VKINTENSITY_ADDRESS_SANITIZER
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define VKINTENSITY_ADDRESS_SANITIZER
+#endif
+#endif
+
+#if defined(VKINTENSITY_ADDRESS_SANITIZER)
+
+#include <QByteArray>
+
+bool limitLargeAllocations()
+{
+    return qgetenv("ASAN_OPTIONS").contains("max_allocation_size_mb=256");
+}
+
+#elif defined(__linux__)
+
+#include <fstream>
+#include <sys/resource.h>
+#include <unistd.h>
+
+bool limitLargeAllocations()
+{
+    unsigned long pages = 0;
+    std::ifstream("/proc/self/statm") >> pages;
+    if (pages == 0) {
+        return false;
+    }
+    const rlim_t used = rlim_t(pages) * rlim_t(sysconf(_SC_PAGESIZE));
+    const rlim_t limit = used + (rlim_t(256) << 20);
+    const rlimit both { limit, RLIM_INFINITY };
+    return setrlimit(RLIMIT_AS, &both) == 0;
+}
+
+#else
+
+bool limitLargeAllocations()
+{
+    return false;
+}
+
+#endif
