@@ -1,0 +1,31 @@
+#pragma once
+
+#include <algorithm>
+
+/// Calibrated values at position 0 and at the position equal to the count of units, such as the
+/// wavelengths at both ends of an image row. A negative end means there is no calibration.
+struct ValueRange
+{
+    double start = -1.0;
+    double end = -1.0;
+
+    bool isCalibrated() const { return start >= 0.0 && end >= 0.0; }
+
+    /// Value at `position` of `count` units. Infinite or not a number when `count` is 0.
+    double valueAt(double position, int count) const
+    {
+        return position * (end - start) / count + start;
+    }
+};
+
+/// The range that is kept for a given pair: none when either is negative, otherwise spanning at
+/// least 5 units.
+inline ValueRange storedValueRange(double start, double end)
+{
+    if (start < 0.0 || end < 0.0) {
+        return ValueRange();
+    }
+    // Deliberate: a short span is widened downward, also below zero: (0, 3) is kept as (-2, 3) and
+    // then counts as uncalibrated.
+    return ValueRange { std::min(start, end - 5.0), end };
+}
