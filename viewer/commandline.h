@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QSize>
+#include <QString>
+#include <QStringList>
+
+/// What the program was asked to do.
+struct CommandLine
+{
+    QString image; ///< file to open; empty: none
+    QString screenshot; ///< file to save the window to; empty: an ordinary session
+    QSize size; ///< window size in pixels; not valid: the default
+    QString error; ///< one line; empty when the arguments make sense
+};
+
+/// Largest width and height of a screenshot, in pixels.
+constexpr int maxScreenshotExtent = 8192;
+
+/// Reads the arguments behind the program's name. "--" ends the options.
+CommandLine parsedCommandLine(const QStringList& arguments);
+
+/// "WxH" as a size; not valid unless both are whole numbers from 1 to maxScreenshotExtent.
+QSize parsedSize(const QString& text);
+
+/// The text of --help.
+QString commandLineHelp();

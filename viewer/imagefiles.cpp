@@ -1,0 +1,136 @@
+#include "imagefiles.h"
+
+#include "rawframe.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QImageReader>
+
+namespace {
+
+QString text(const char* source)
+{
+    return QCoreApplication::translate("ImageFiles", source);
+}
+
+QString suffixOf(const QString& path)
+{
+    return QFileInfo(path).suffix().toLower();
+}
+
+QString formatName(const QString& suffix)
+{
+    if (suffix.startsWith("jp")) {
+        return "JPEG";
+    }
+    return suffix.startsWith("tif") ? QString("TIFF") : suffix.toUpper();
+}
+
+/// What is wrong with the name or the kind of the file; empty when nothing is.
+QString outerProblem(const QFileInfo& file)
+{
+    if (!file.exists()) {
+        return text("There is no file of this name.");
+    }
+    if (file.isDir()) {
+        return text("This is a folder, not an image file.");
+    }
+    if (!file.isFile()) {
+        return text("This is not a regular file.");
+    }
+    const QString suffix = file.suffix().toLower();
+    if (suffix.isEmpty()) {
+        return text("The file name has no suffix. Images end in %1.")
+            .arg(imageSuffixes().join(", "));
+    }
+    if (!imageSuffixes().contains(suffix)) {
+        return text("Files of the kind \"%1\" are not known. Images end in %2.")
+            .arg(suffix.left(20), imageSuffixes().join(", "));
+    }
+    if (!file.isReadable()) {
+        return text("You have no permission to read this file.");
+    }
+    return file.size() == 0 ? text("The file is empty.") : QString();
+}
+
+QString rawProblem(const QString& path)
+{
+    RawHeader header;
+    switch (readRawHeader(path, &header)) {
+    case RawFileError::Unreadable: return text("The file cannot be opened.");
+    case RawFileError::NoSignature:
+        return text("This is no raw camera file: it does not carry the camera's signature.");
+    default: break;
+    }
+    if (pixelByteCount(header) == 0) {
+        return text("This raw camera file holds no pixels.");
+    }
+    return text("This raw camera file claims %1 x %2 pixels with %3 channels of %4 bytes, which is "
+                "more than can be loaded.")
+        .arg(header.width)
+        .arg(header.height)
+        .arg(header.channels)
+        .arg(header.bytesPerChannel);
+}
+
+QString sizeText(int width, int height)
+{
+    return text("%1 × %2 pixels").arg(width).arg(height);
+}
+
+QString rawSummary(const QString& path)
+{
+    RawHeader header;
+    if (readRawHeader(path, &header) != RawFileError::None) {
+        return QString();
+    }
+    const QString depth = text("%1 bit").arg(header.bytesPerChannel * 8);
+    return sizeText(header.width, header.height) + "   " + depth;
+}
+
+} // namespace
+
+QStringList imageSuffixes()
+{
+    return { "jpg", "jpeg", "tif", "tiff", "bmp", "png", "raw" };
+}
+
+QString openDialogFilter()
+{
+    QStringList patterns;
+    for (const QString& suffix : imageSuffixes()) {
+        patterns << "*." + suffix;
+    }
+    return text("Images (%1)").arg(patterns.join(' ')) + ";;" + text("All files (*)");
+}
+
+QString loadProblem(const QString& path)
+{
+    const QFileInfo file(path);
+    const QString outer = outerProblem(file);
+    if (!outer.isEmpty()) {
+        return outer;
+    }
+    if (suffixOf(path) == "raw") {
+        return rawProblem(path);
+    }
+    return text("The file cannot be read as a %1 image: it is damaged, or of another kind than its "
+                "suffix says.")
+        .arg(formatName(suffixOf(path)));
+}
+
+bool isRawFileWithoutPixels(const QString& path)
+{
+    RawHeader header;
+    return suffixOf(path) == "raw" && readRawHeader(path, &header) == RawFileError::None
+        && pixelByteCount(header) == 0;
+}
+
+QString imageSummary(const QString& path)
+{
+    if (suffixOf(path) == "raw") {
+        return rawSummary(path);
+    }
+    const QSize size = QImageReader(path).size();
+    return size.isValid() ? sizeText(size.width(), size.height()) : QString();
+}

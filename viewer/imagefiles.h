@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// What the viewer knows about image files without loading them.
+
+/// The suffixes that can be opened, in lower case.
+QStringList imageSuffixes();
+
+/// Name filters of the open dialog.
+QString openDialogFilter();
+
+/// The likely reason why the file cannot be shown, as one sentence for the user. To be asked after
+/// a load has failed: when nothing else is wrong, the content is.
+QString loadProblem(const QString& path);
+
+/// Whether the file is a raw camera file whose header says that it holds no pixels.
+bool isRawFileWithoutPixels(const QString& path);
+
+/// Size and, where it is known without reading the pixels, depth; empty when neither is.
+QString imageSummary(const QString& path);

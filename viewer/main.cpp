@@ -1,0 +1,101 @@
+#include "appearance.h"
+#include "commandline.h"
+#include "screenshot.h"
+#include "viewerwindow.h"
+
+#include <QApplication>
+#include <QLoggingCategory>
+#include <QScreen>
+#include <QTimer>
+
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+bool hasArgument(int argc, char* argv[], const char* wanted)
+{
+    for (int i = 1; i < argc; ++i) {
+        if (std::strcmp(argv[i], wanted) == 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+int fail(const QString& message)
+{
+    std::fprintf(stderr, "vkviewer: %s\n", qUtf8Printable(message.simplified()));
+    return 1;
+}
+
+/// Whether a window could only end in the platform plugin's abort.
+bool displayIsMissing()
+{
+#ifdef Q_OS_LINUX
+    return qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
+        && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+#else
+    return false;
+#endif
+}
+
+/// Diagnostic lines are for developers, who ask for them with QT_LOGGING_RULES. A screenshot has at
+/// most one line to say, so the platform's warnings go as well.
+void quietLog(bool screenshot)
+{
+    QLoggingCategory::setFilterRules(
+        screenshot ? "*.debug=false\n*.info=false\n*.warning=false" : "*.debug=false");
+}
+
+QSize startSize()
+{
+    const QSize wanted(scaledForScreen(1280), scaledForScreen(800));
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? wanted.boundedTo(screen->availableSize() * 0.95) : wanted;
+}
+
+int runWindow(ViewerWindow* window, const QString& image)
+{
+    window->resize(startSize());
+    window->show();
+    if (!image.isEmpty()) {
+        QTimer::singleShot(0, window, [window, image] { window->openFile(image); });
+    }
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    if (hasArgument(argc, argv, "--help")) {
+        std::fputs(qUtf8Printable(commandLineHelp()), stdout);
+        return 0;
+    }
+    if (hasArgument(argc, argv, "--version")) {
+        std::puts("vkviewer " VKVIEWER_VERSION);
+        return 0;
+    }
+    const bool screenshot = hasArgument(argc, argv, "--screenshot");
+    if (displayIsMissing() && !hasArgument(argc, argv, "-platform")) {
+        if (!screenshot) {
+            return fail("there is no display to open a window on (--screenshot needs none)");
+        }
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    quietLog(screenshot);
+    const QApplication application(argc, argv);
+    const CommandLine line = parsedCommandLine(QApplication::arguments().mid(1));
+    if (!line.error.isEmpty()) {
+        return fail(line.error);
+    }
+    initViewerResources();
+    applyAppearance();
+    ViewerWindow window;
+    if (line.screenshot.isEmpty()) {
+        return runWindow(&window, line.image);
+    }
+    const QString problem = takeScreenshot(&window, line);
+    return problem.isEmpty() ? 0 : fail(problem);
+}

@@ -1,0 +1,126 @@
+#include "pages.h"
+
+#include "appearance.h"
+#include "elidedlabel.h"
+
+#include <QFileInfo>
+#include <QFont>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+/// A label whose style comes from its name; plain text only, since it may show file names.
+template <class Label>
+Label* namedLabel(const QString& objectName, const QString& text)
+{
+    auto* label = new Label;
+    label->setObjectName(objectName);
+    label->setTextFormat(Qt::PlainText);
+    label->setText(text);
+    label->setAlignment(Qt::AlignCenter);
+    label->setWordWrap(true);
+    return label;
+}
+
+QLabel* picture(const QString& resource)
+{
+    const int side = scaledForScreen(112);
+    auto* label = new QLabel;
+    label->setAlignment(Qt::AlignCenter);
+    label->setPixmap(
+        QPixmap(resource).scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    return label;
+}
+
+QPushButton* openButton()
+{
+    auto* button = new QPushButton(WelcomePage::tr("Open Image..."));
+    button->setObjectName("pageOpenButton");
+    button->setCursor(Qt::PointingHandCursor);
+    return button;
+}
+
+QLabel* titleLabel(const QString& text)
+{
+    auto* label = namedLabel<QLabel>("pageTitle", text);
+    QFont font = label->font();
+    font.setPixelSize(scaledForScreen(22));
+    label->setFont(font);
+    return label;
+}
+
+/// Picture, texts and button one below the other, on a card in the middle of the page.
+void fillPage(QFrame* page, const QVector<QWidget*>& widgets, QPushButton* button)
+{
+    auto* card = new QFrame;
+    card->setObjectName("pageCard");
+    card->setMaximumSize(scaledForScreen(640), scaledForScreen(400));
+    auto* column = new QVBoxLayout(card);
+    const int margin = scaledForScreen(24);
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(scaledForScreen(10));
+    column->addStretch(1);
+    for (QWidget* widget : widgets) {
+        column->addWidget(widget);
+    }
+    column->addSpacing(scaledForScreen(10));
+    column->addWidget(button, 0, Qt::AlignHCenter);
+    column->addStretch(1);
+
+    auto* centre = new QHBoxLayout(page);
+    centre->setContentsMargins(margin, margin, margin, margin);
+    centre->addWidget(card);
+}
+
+} // namespace
+
+WelcomePage::WelcomePage(QWidget* parent)
+    : QFrame(parent)
+{
+    setObjectName("welcomePage");
+    QPushButton* button = openButton();
+    const QVector<QWidget*> widgets {
+        picture(":/viewer/logo.png"),
+        titleLabel(tr("Drop a camera image here")),
+        namedLabel<QLabel>("pageText", tr("JPEG, TIFF, BMP, PNG, or a raw camera file")),
+    };
+    fillPage(this, widgets, button);
+    connect(button, &QPushButton::clicked, this, &WelcomePage::openRequested);
+}
+
+LoadProblemPage::LoadProblemPage(QWidget* parent)
+    : QFrame(parent)
+    , m_fileName(namedLabel<ElidedLabel>("pageFileName", QString()))
+    , m_reason(namedLabel<QLabel>("pageReason", QString()))
+{
+    setObjectName("loadProblemPage");
+    QPushButton* button = openButton();
+    const QVector<QWidget*> widgets {
+        picture(":/viewer/problem.png"),
+        titleLabel(tr("This file cannot be shown")),
+        m_fileName,
+        m_reason,
+    };
+    fillPage(this, widgets, button);
+    connect(button, &QPushButton::clicked, this, &LoadProblemPage::openRequested);
+}
+
+void LoadProblemPage::showProblem(const QString& path, const QString& reason)
+{
+    const QString name = QFileInfo(path).fileName();
+    m_fileName->setText(name.isEmpty() ? path : name);
+    m_fileName->setToolTip(path.toHtmlEscaped());
+    m_reason->setText(reason);
+}
+
+QString LoadProblemPage::fileName() const
+{
+    return m_fileName->text();
+}
+
+QString LoadProblemPage::reason() const
+{
+    return m_reason->text();
+}

@@ -1,0 +1,73 @@
+#include "screenshot.h"
+
+#include "commandline.h"
+#include "viewerwindow.h"
+
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QSaveFile>
+#include <QTimer>
+#include <QWindow>
+
+namespace {
+
+constexpr int exposeMilliseconds = 5000; // a screen that shows no window must not hang the program
+constexpr int settleMilliseconds = 150;
+
+void runEvents(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+/// Lets the window system answer, and layouts and queued calls run.
+void settle(const ViewerWindow& window)
+{
+    QElapsedTimer waited;
+    waited.start();
+    const QWindow* handle = window.windowHandle();
+    while (handle && !handle->isExposed() && !waited.hasExpired(exposeMilliseconds)) {
+        runEvents(10);
+    }
+    runEvents(settleMilliseconds);
+}
+
+QString sizeProblem(const ViewerWindow& window, const QSize& size)
+{
+    const QSize least = window.minimumSize();
+    if (!size.isValid() || size.expandedTo(least) == size) {
+        return QString();
+    }
+    return QString("the window is at least %1x%2 pixels").arg(least.width()).arg(least.height());
+}
+
+QString savePicture(const QPixmap& picture, const QString& path)
+{
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && picture.save(&file, "PNG") && file.commit()) {
+        return QString();
+    }
+    return QString("%1: cannot be written: %2").arg(path, file.errorString());
+}
+
+} // namespace
+
+QString takeScreenshot(ViewerWindow* window, const CommandLine& line)
+{
+    const QString tooSmall = sizeProblem(*window, line.size);
+    if (!tooSmall.isEmpty()) {
+        return tooSmall;
+    }
+    if (line.size.isValid()) {
+        window->resize(line.size);
+    }
+    window->show();
+    settle(*window);
+    if (!window->openFile(line.image)) {
+        return QString("%1: %2").arg(line.image, window->problem());
+    }
+    settle(*window);
+    return savePicture(window->grab(), line.screenshot);
+}
