@@ -1,5 +1,7 @@
 #include "imagefile.h"
 
+#include "quietstderr.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -65,6 +67,7 @@ bool readImageFile(const QString& path, RawFrame* frame, QString* problem)
         *problem = QStringLiteral("there is no such file");
         return false;
     }
+    const QuietStandardError quiet;
     try {
         const cv::Mat matrix = cv::imread(QFile::encodeName(path).toStdString(), unchangedFlag);
         if (!matrix.empty()) {
@@ -86,6 +89,7 @@ bool writeImageFile(const QString& path, const RawFrame& frame, QString* problem
         *problem = QStringLiteral("only a raw file holds samples of this depth");
         return false;
     }
+    const QuietStandardError quiet;
     try {
         const cv::Mat matrix(frame.height, frame.width, matrixType(frame),
             const_cast<char*>(frame.bytes.constData()));

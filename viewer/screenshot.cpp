@@ -1,6 +1,7 @@
 #include "screenshot.h"
 
 #include "commandline.h"
+#include "quietstderr.h"
 #include "viewerwindow.h"
 
 #include <QElapsedTimer>
@@ -34,6 +35,12 @@ void settle(const ViewerWindow& window)
     runEvents(settleMilliseconds);
 }
 
+bool openQuietly(ViewerWindow* window, const QString& path)
+{
+    const QuietStandardError quiet;
+    return window->openFile(path);
+}
+
 QString sizeProblem(const ViewerWindow& window, const QSize& size)
 {
     const QSize least = window.minimumSize();
@@ -65,7 +72,7 @@ QString takeScreenshot(ViewerWindow* window, const CommandLine& line)
     }
     window->show();
     settle(*window);
-    if (!window->openFile(line.image)) {
+    if (!openQuietly(window, line.image)) {
         return QString("%1: %2").arg(line.image, window->problem());
     }
     settle(*window);
