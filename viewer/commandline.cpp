@@ -71,7 +71,7 @@ CommandLine parsedCommandLine(const QStringList& arguments)
 
 QSize parsedSize(const QString& text)
 {
-    static const QRegularExpression pattern("^([0-9]{1,5})x([0-9]{1,5})$");
+    static const QRegularExpression pattern("\\A([0-9]{1,5})x([0-9]{1,5})\\z");
     const QRegularExpressionMatch match = pattern.match(text);
     const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
     const bool inside = size.width() >= 1 && size.width() <= maxScreenshotExtent

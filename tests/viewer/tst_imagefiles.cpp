@@ -1,0 +1,190 @@
+#include "imagefiles.h"
+
+#include "rawframe.h"
+
+#include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+class TestImageFiles : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void suffixes();
+    void filter_listsEverySuffix();
+    void problem_data();
+    void problem();
+    void problem_noPermission();
+    void problem_longSuffixIsCut();
+    void rawWithoutPixels_data();
+    void rawWithoutPixels();
+    void summary_data();
+    void summary();
+
+private:
+    void write(const QString& name, const QByteArray& bytes);
+    QString path(const QString& name) const { return m_folder.filePath(name); }
+
+    QTemporaryDir m_folder;
+};
+
+void TestImageFiles::write(const QString& name, const QByteArray& bytes)
+{
+    QFile file(path(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), qint64(bytes.size()));
+}
+
+void TestImageFiles::initTestCase()
+{
+    write("notes.txt", "hello");
+    write("noext", "hello");
+    write("fake.raw", QByteArray(2000, 'x'));
+    write("text.png", "hello");
+    write("text.JPG", "hello");
+    write("text.tif", "hello");
+    write("nothing.bmp", "");
+    QVERIFY(QDir(m_folder.path()).mkdir("folder.png"));
+
+    RawHeader header;
+    header.width = 7;
+    header.channels = 1;
+    header.bytesPerChannel = 2;
+    write("empty.raw", encodedRawHeader(header));
+    write("short.RAW", "VORLAK");
+    header.height = 5;
+    header.dataSize = 70;
+    write("good.raw", encodedRawHeader(header) + QByteArray(70, 'x'));
+    header.width = header.height = 65535;
+    header.channels = header.bytesPerChannel = 255;
+    write("huge.raw", encodedRawHeader(header));
+    QVERIFY(QImage(12, 9, QImage::Format_RGB32).save(path("real.png")));
+}
+
+void TestImageFiles::suffixes()
+{
+    QCOMPARE(imageSuffixes(), (QStringList { "jpg", "jpeg", "tif", "tiff", "bmp", "png", "raw" }));
+}
+
+void TestImageFiles::filter_listsEverySuffix()
+{
+    QCOMPARE(openDialogFilter(),
+        QString("Images (*.jpg *.jpeg *.tif *.tiff *.bmp *.png *.raw);;All files (*)"));
+}
+
+void TestImageFiles::problem_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("reason");
+    const QString known = "Images end in jpg, jpeg, tif, tiff, bmp, png, raw.";
+    QTest::newRow("missing") << "gone.png"
+                             << "There is no file of this name.";
+    QTest::newRow("no name") << ""
+                             << "This is a folder, not an image file.";
+    QTest::newRow("folder") << "folder.png"
+                            << "This is a folder, not an image file.";
+    QTest::newRow("unknown suffix") << "notes.txt"
+                                    << "Files of the kind \"txt\" are not known. " + known;
+    QTest::newRow("no suffix") << "noext"
+                               << "The file name has no suffix. " + known;
+    QTest::newRow("empty") << "nothing.bmp"
+                           << "The file is empty.";
+    QTest::newRow("no signature")
+        << "fake.raw"
+        << "This is no raw camera file: it does not carry the camera's signature.";
+    QTest::newRow("no pixels") << "empty.raw"
+                               << "This raw camera file holds no pixels.";
+    QTest::newRow("signature alone") << "short.RAW"
+                                     << "This raw camera file holds no pixels.";
+    QTest::newRow("claims too much")
+        << "huge.raw"
+        << "This raw camera file claims 65535 x 65535 pixels with 255 channels of 255 bytes, "
+           "which is more than can be loaded.";
+    const QString damaged = ": it is damaged, or of another kind than its suffix says.";
+    QTest::newRow("not a PNG") << "text.png"
+                               << "The file cannot be read as a PNG image" + damaged;
+    QTest::newRow("not a JPEG") << "text.JPG"
+                                << "The file cannot be read as a JPEG image" + damaged;
+    QTest::newRow("not a TIFF") << "text.tif"
+                                << "The file cannot be read as a TIFF image" + damaged;
+#ifdef Q_OS_UNIX
+    QCOMPARE(::mkfifo(QFile::encodeName(path("pipe.raw")).constData(), 0600), 0);
+    QTest::newRow("pipe") << "pipe.raw"
+                          << "This is not a regular file.";
+    QVERIFY(QFile::link(path("nowhere.png"), path("dangling.png")));
+    QTest::newRow("dangling link") << "dangling.png"
+                                   << "There is no file of this name.";
+#endif
+}
+
+void TestImageFiles::problem()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, reason);
+    QCOMPARE(loadProblem(path(name)), reason);
+}
+
+void TestImageFiles::problem_noPermission()
+{
+    write("locked.png", "hello");
+    QVERIFY(QFile::setPermissions(path("locked.png"), QFileDevice::WriteOwner));
+    if (QFile(path("locked.png")).open(QIODevice::ReadOnly)) {
+        QSKIP("this user may read every file");
+    }
+    QCOMPARE(loadProblem(path("locked.png")), QString("You have no permission to read this file."));
+}
+
+void TestImageFiles::problem_longSuffixIsCut()
+{
+    const QString name = "a." + QString(200, 'z');
+    write(name, "hello");
+    QVERIFY(loadProblem(path(name)).contains('"' + QString(20, 'z') + '"'));
+}
+
+void TestImageFiles::rawWithoutPixels_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("empty");
+    QTest::newRow("height 0") << "empty.raw" << true;
+    QTest::newRow("signature alone, upper-case suffix") << "short.RAW" << true;
+    QTest::newRow("good") << "good.raw" << false;
+    QTest::newRow("huge") << "huge.raw" << false;
+    QTest::newRow("no signature") << "fake.raw" << false;
+    QTest::newRow("missing") << "gone.raw" << false;
+    QTest::newRow("another kind") << "text.png" << false;
+}
+
+void TestImageFiles::rawWithoutPixels()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, empty);
+    QCOMPARE(isRawFileWithoutPixels(path(name)), empty);
+}
+
+void TestImageFiles::summary_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("raw") << "good.raw" << QString::fromUtf8("7 × 5 pixels   16 bit");
+    QTest::newRow("picture") << "real.png" << QString::fromUtf8("12 × 9 pixels");
+    QTest::newRow("unreadable") << "text.png" << QString();
+    QTest::newRow("no signature") << "fake.raw" << QString();
+}
+
+void TestImageFiles::summary()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, text);
+    QCOMPARE(imageSummary(path(name)), text);
+}
+
+QTEST_GUILESS_MAIN(TestImageFiles)
+#include "tst_imagefiles.moc"

@@ -1,0 +1,351 @@
+#include "viewerwindow.h"
+
+#include "appearance.h"
+#include "cvkintensitywidget.h"
+#include "pages.h"
+#include "scenes.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QtTest>
+
+namespace {
+
+/// What the window shows when its layouts have settled, without the mark of the keyboard focus.
+QImage pictureOf(QWidget* window)
+{
+    QCoreApplication::processEvents();
+    if (window->focusWidget()) {
+        window->focusWidget()->clearFocus();
+    }
+    return window->grab().toImage();
+}
+
+/// Drags `data` onto the widget and drops it there, as the window system would.
+void dropOnto(QWidget* target, const QMimeData& data)
+{
+    const QPoint position(10, 10);
+    QDragEnterEvent enter(position, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QApplication::sendEvent(target, &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent drop(position, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    drop.ignore();
+    QApplication::sendEvent(target, &drop);
+    QVERIFY(drop.isAccepted());
+}
+
+} // namespace
+
+class TestViewerWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void startsOnTheWelcomePage();
+    void open_showsTheImage();
+    void open_fillsTheWindow();
+    void open_aProblemNamesFileAndReason();
+    void open_theOldPictureNeverStays();
+    void open_aGoodFileAfterAProblem();
+    void open_anEmptyRawFileReplacesTheWidget();
+    void open_afterTheWidgetWasClosed();
+    void open_hostileNames();
+    void close_goesBackToTheWelcomePage();
+    void returnButton_closesTheImage();
+    void menu();
+    void dialog_opensTheChosenFile();
+    void drag_takesExactlyOneLocalFile_data();
+    void drag_takesExactlyOneLocalFile();
+    void drop_opensTheFile();
+    void drop_onTheCanvasReachesTheWindow();
+    void longNames_doNotWidenTheWindow();
+    void minimumSize_holdsColumnAndCanvas();
+
+private:
+    CVKIntensityWidget* intensity() const { return m_window->findChild<CVKIntensityWidget*>(); }
+    QWidget* page() const { return m_window->findChild<QStackedWidget*>("pages")->currentWidget(); }
+    QString status(const char* name) const { return m_window->findChild<QLabel*>(name)->text(); }
+    QString path(const QString& name) const { return m_folder.filePath(name); }
+    void write(const QString& name, const QByteArray& bytes);
+
+    QTemporaryDir m_folder;
+    std::unique_ptr<ViewerWindow> m_window;
+};
+
+void TestViewerWindow::write(const QString& name, const QByteArray& bytes)
+{
+    QFile file(path(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), qint64(bytes.size()));
+}
+
+void TestViewerWindow::initTestCase()
+{
+    initViewerResources();
+    applyAppearance();
+    QLoggingCategory::setFilterRules("*.debug=false");
+    QString problem;
+    QVERIFY(writeRawFrame(path("lamp.raw"), lampSpectrum(), &problem));
+    QVERIFY(writeRawFrame(path("rings.raw"), ringCounts(), &problem));
+    RawHeader header;
+    header.height = 100;
+    header.channels = 1;
+    header.bytesPerChannel = 2;
+    write("empty.raw", encodedRawHeader(header));
+    write("fake.raw", QByteArray(3000, 'x'));
+    write("fake.png", "hello");
+}
+
+void TestViewerWindow::init()
+{
+    m_window = std::make_unique<ViewerWindow>();
+    m_window->resize(1000, 700);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+void TestViewerWindow::cleanup()
+{
+    m_window.reset();
+    QCOMPARE(QApplication::overrideCursor(), nullptr);
+}
+
+void TestViewerWindow::startsOnTheWelcomePage()
+{
+    QVERIFY(qobject_cast<WelcomePage*>(page()));
+    QCOMPARE(m_window->windowTitle(), QString("VKIntensity Viewer"));
+    QCOMPARE(status("statusFileName"), QString("No image"));
+    QVERIFY(m_window->problem().isEmpty());
+    QVERIFY(intensity());
+    QVERIFY(!intensity()->isVisible());
+}
+
+void TestViewerWindow::open_showsTheImage()
+{
+    QVERIFY(m_window->openFile(path("lamp.raw")));
+    QCOMPARE(page(), intensity());
+    QVERIFY(intensity()->isVisible());
+    QVERIFY(m_window->problem().isEmpty());
+    QCOMPARE(m_window->windowTitle(), QString("lamp.raw - VKIntensity Viewer"));
+    QCOMPARE(status("statusFileName"), QDir::toNativeSeparators(path("lamp.raw")));
+    QCOMPARE(status("statusImageSize"), QString::fromUtf8("1024 × 256 pixels   16 bit"));
+}
+
+void TestViewerWindow::open_fillsTheWindow()
+{
+    QVERIFY(m_window->openFile(path("lamp.raw")));
+    QCOMPARE(intensity()->width(), 1000);
+    const int bars = m_window->menuBar()->height() + m_window->statusBar()->height();
+    QCOMPARE(intensity()->height(), 700 - bars);
+    QVERIFY(!intensity()->isWindow());
+}
+
+void TestViewerWindow::open_aProblemNamesFileAndReason()
+{
+    QVERIFY(!m_window->openFile(path("fake.raw")));
+    auto* problemPage = qobject_cast<LoadProblemPage*>(page());
+    QVERIFY(problemPage);
+    QCOMPARE(problemPage->fileName(), QString("fake.raw"));
+    QCOMPARE(problemPage->reason(),
+        QString("This is no raw camera file: it does not carry the camera's signature."));
+    QCOMPARE(m_window->problem(), problemPage->reason());
+    QCOMPARE(m_window->windowTitle(), QString("fake.raw - VKIntensity Viewer"));
+    QVERIFY(status("statusImageSize").isEmpty());
+}
+
+void TestViewerWindow::open_theOldPictureNeverStays()
+{
+    for (const char* name : { "gone.png", "fake.raw", "fake.png", "empty.raw" }) {
+        ViewerWindow fresh;
+        fresh.resize(m_window->size());
+        fresh.show();
+        QVERIFY(!fresh.openFile(path(name)));
+        const QImage withoutPicture = pictureOf(&fresh);
+        QVERIFY(m_window->openFile(path("lamp.raw")));
+        QVERIFY(!m_window->openFile(path(name)));
+        QVERIFY(!intensity()->isVisible());
+        // Nothing of the picture before shows through: the same page as without one.
+        QCOMPARE(pictureOf(m_window.get()), withoutPicture);
+    }
+}
+
+void TestViewerWindow::open_aGoodFileAfterAProblem()
+{
+    QVERIFY(m_window->openFile(path("rings.raw")));
+    const QImage direct = pictureOf(m_window.get());
+    QVERIFY(!m_window->openFile(path("fake.png")));
+    QVERIFY(m_window->openFile(path("rings.raw")));
+    QCOMPARE(page(), intensity());
+    QVERIFY(m_window->problem().isEmpty());
+    QCOMPARE(pictureOf(m_window.get()), direct);
+}
+
+void TestViewerWindow::open_anEmptyRawFileReplacesTheWidget()
+{
+    QVERIFY(m_window->openFile(path("lamp.raw")));
+    const QPointer<CVKIntensityWidget> before = intensity();
+    QVERIFY(!m_window->openFile(path("empty.raw")));
+    QCOMPARE(m_window->problem(), QString("This raw camera file holds no pixels."));
+    QVERIFY(!before->isVisible());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(before.isNull());
+    QVERIFY(intensity());
+
+    QVERIFY(m_window->openFile(path("lamp.raw")));
+    QCOMPARE(page(), intensity());
+    QCOMPARE(m_window->findChildren<CVKIntensityWidget*>().size(), 1);
+}
+
+void TestViewerWindow::open_afterTheWidgetWasClosed()
+{
+    QVERIFY(m_window->openFile(path("lamp.raw")));
+    const QPointer<CVKIntensityWidget> before = intensity();
+    QVERIFY(before->close()); // deletes itself
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(before.isNull());
+    m_window->closeFile();
+    QVERIFY(m_window->openFile(path("lamp.raw")));
+    QCOMPARE(page(), intensity());
+}
+
+void TestViewerWindow::open_hostileNames()
+{
+    for (const QString& name :
+        { QString(), QString("/"), QString("."), QString("a\nb.png"), QString(5000, 'x') + ".raw",
+            QString("<b>bold</b>.png"), QString::fromUtf8("\u202E.raw") }) {
+        QVERIFY(!m_window->openFile(name));
+        QVERIFY(qobject_cast<LoadProblemPage*>(page()));
+        QVERIFY(!m_window->problem().isEmpty());
+        QVERIFY(!m_window->windowTitle().contains('\n'));
+        m_window->grab();
+    }
+    QCOMPARE(m_window->size(), QSize(1000, 700));
+}
+
+void TestViewerWindow::close_goesBackToTheWelcomePage()
+{
+    QVERIFY(m_window->openFile(path("lamp.raw")));
+    m_window->closeFile();
+    QVERIFY(qobject_cast<WelcomePage*>(page()));
+    QCOMPARE(m_window->windowTitle(), QString("VKIntensity Viewer"));
+    QVERIFY(status("statusImageSize").isEmpty());
+    m_window->closeFile(); // without an image nothing happens
+    QVERIFY(m_window->openFile(path("lamp.raw")));
+}
+
+void TestViewerWindow::returnButton_closesTheImage()
+{
+    QVERIFY(m_window->openFile(path("lamp.raw")));
+    QVERIFY(QMetaObject::invokeMethod(m_window.get(), "sltSwitchToGallery"));
+    QVERIFY(qobject_cast<WelcomePage*>(page()));
+}
+
+void TestViewerWindow::menu()
+{
+    const QMenuBar* bar = m_window->menuBar();
+    QCOMPARE(bar->actions().size(), 1);
+    const QList<QAction*> actions = bar->actions().first()->menu()->actions();
+    QCOMPARE(actions.at(0)->shortcut(), QKeySequence(QKeySequence::Open));
+    QVERIFY(m_window->openFile(path("lamp.raw")));
+    actions.at(1)->trigger(); // Close
+    QVERIFY(qobject_cast<WelcomePage*>(page()));
+    actions.at(3)->trigger(); // Quit
+    QVERIFY(!m_window->isVisible());
+}
+
+void TestViewerWindow::dialog_opensTheChosenFile()
+{
+    QTimer::singleShot(0, this, [this] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        dialog->findChild<QLineEdit*>()->setText(path("lamp.raw"));
+        static_cast<QDialog*>(dialog)->accept();
+    });
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QTest::mouseClick(page()->findChild<QPushButton*>("pageOpenButton"), Qt::LeftButton);
+    QCOMPARE(page(), intensity());
+}
+
+void TestViewerWindow::drag_takesExactlyOneLocalFile_data()
+{
+    QTest::addColumn<QList<QUrl>>("urls");
+    QTest::addColumn<QString>("file");
+    const QUrl lamp = QUrl::fromLocalFile("/data/a lamp.raw");
+    QTest::newRow("one file") << QList<QUrl> { lamp } << "/data/a lamp.raw";
+    QTest::newRow("two files") << QList<QUrl> { lamp, lamp } << "";
+    QTest::newRow("a web address") << QList<QUrl> { QUrl("https://example.org/a.png") } << "";
+    QTest::newRow("nothing") << QList<QUrl>() << "";
+}
+
+void TestViewerWindow::drag_takesExactlyOneLocalFile()
+{
+    QFETCH(QList<QUrl>, urls);
+    QFETCH(QString, file);
+    QMimeData data;
+    data.setText("some text");
+    data.setUrls(urls);
+    QCOMPARE(ViewerWindow::draggedFile(&data), file);
+    QDragEnterEvent enter(QPoint(500, 300), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QApplication::sendEvent(m_window.get(), &enter);
+    QCOMPARE(enter.isAccepted(), !file.isEmpty());
+}
+
+void TestViewerWindow::drop_opensTheFile()
+{
+    QMimeData data;
+    data.setUrls({ QUrl::fromLocalFile(path("lamp.raw")) });
+    dropOnto(m_window.get(), data);
+    QTRY_COMPARE(page(), intensity());
+    QCOMPARE(m_window->windowTitle(), QString("lamp.raw - VKIntensity Viewer"));
+}
+
+void TestViewerWindow::drop_onTheCanvasReachesTheWindow()
+{
+    QVERIFY(m_window->openFile(path("lamp.raw")));
+    for (const QWidget* child : intensity()->findChildren<QWidget*>()) {
+        QVERIFY2(!child->acceptDrops(), child->metaObject()->className());
+    }
+    QMimeData data;
+    data.setUrls({ QUrl::fromLocalFile(path("rings.raw")) });
+    QWidget* canvas = m_window->childAt(700, 350);
+    QVERIFY(intensity()->isAncestorOf(canvas));
+    dropOnto(canvas, data);
+    QTRY_COMPARE(m_window->windowTitle(), QString("rings.raw - VKIntensity Viewer"));
+}
+
+void TestViewerWindow::longNames_doNotWidenTheWindow()
+{
+    m_window->resize(m_window->minimumSize());
+    QVERIFY(!m_window->openFile(path(QString(200, 'w') + ".png")));
+    QCoreApplication::processEvents();
+    QCOMPARE(m_window->size(), m_window->minimumSize());
+    QVERIFY(page()->minimumSizeHint().width() <= page()->width());
+}
+
+void TestViewerWindow::minimumSize_holdsColumnAndCanvas()
+{
+    QCOMPARE(m_window->minimumSize(), QSize(640, 480)); // 290 + 350 at 96 dots per inch
+    m_window->resize(10, 10);
+    QVERIFY(m_window->openFile(path("lamp.raw")));
+    QCOMPARE(m_window->size(), QSize(640, 480));
+}
+
+QTEST_MAIN(TestViewerWindow)
+#include "tst_viewerwindow.moc"

@@ -1,0 +1,259 @@
+#include "scenes.h"
+
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <algorithm>
+
+/// The program from outside: arguments, exit codes, what it writes.
+class TestVkviewer : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { QFile::remove(path("never.png")); }
+
+    void help();
+    void version();
+    void screenshot_ofEverySample_data();
+    void screenshot_ofEverySample();
+    void screenshot_atOtherResolutions_data();
+    void screenshot_atOtherResolutions();
+    void screenshot_withoutADisplay();
+    void failures_data();
+    void failures();
+    void hostileFiles_data();
+    void hostileFiles();
+    void noDisplay();
+    void palettesStandBesideTheProgram();
+
+private:
+    int run(const QStringList& arguments, const QMap<QString, QString>& environment = {});
+    QString path(const QString& name) const { return m_folder.filePath(name); }
+    QString written(const QString& name, const QByteArray& bytes);
+
+    QTemporaryDir m_folder;
+    QByteArray m_output;
+    QByteArray m_errors;
+};
+
+namespace {
+
+QString sample(const QString& fileName)
+{
+    return QString(VKINTENSITY_SAMPLES) + "/" + fileName;
+}
+
+QByteArray content(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Different colours in the part of the window right of the panel column.
+int canvasColours(const QImage& window, int columnWidth)
+{
+    QSet<QRgb> colours;
+    for (int y = 40; y < window.height() - 40; y += 3) {
+        for (int x = columnWidth; x < window.width(); x += 3) {
+            colours << window.pixel(x, y);
+        }
+    }
+    return colours.size();
+}
+
+} // namespace
+
+int TestVkviewer::run(const QStringList& arguments, const QMap<QString, QString>& environment)
+{
+    QProcess process;
+    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    for (auto it = environment.begin(); it != environment.end(); ++it) {
+        variables.insert(it.key(), it.value());
+    }
+    process.setProcessEnvironment(variables);
+    process.start(VKVIEWER_PROGRAM, arguments);
+    if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit) {
+        return -1; // hangs, or ended by a signal
+    }
+    m_output = process.readAllStandardOutput();
+    m_errors = process.readAllStandardError();
+    return process.exitCode();
+}
+
+QString TestVkviewer::written(const QString& name, const QByteArray& bytes)
+{
+    QFile file(path(name));
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() ? file.fileName()
+                                                                                : QString();
+}
+
+void TestVkviewer::help()
+{
+    QCOMPARE(run({ "--help" }, { { "QT_QPA_PLATFORM", "no such platform" } }), 0);
+    QVERIFY(m_output.startsWith("Usage: vkviewer [IMAGE]\n"));
+    QVERIFY(m_errors.isEmpty());
+}
+
+void TestVkviewer::version()
+{
+    QCOMPARE(run({ "--version" }), 0);
+    QVERIFY(QRegularExpression("^vkviewer [0-9]+\\.[0-9]+\\.[0-9]+\n$")
+                .match(QString::fromUtf8(m_output))
+                .hasMatch());
+}
+
+void TestVkviewer::screenshot_ofEverySample_data()
+{
+    QTest::addColumn<QString>("fileName");
+    for (const Scene& scene : allScenes()) {
+        QTest::newRow(qPrintable(scene.name)) << scene.fileName;
+    }
+}
+
+void TestVkviewer::screenshot_ofEverySample()
+{
+    QFETCH(QString, fileName);
+    const QString picture = path("sample.png");
+    QCOMPARE(run({ "--screenshot", picture, "--size", "1000x700", sample(fileName) }), 0);
+    QVERIFY2(m_errors.isEmpty(), m_errors.constData());
+    QVERIFY(m_output.isEmpty());
+    const QImage window(picture);
+    QCOMPARE(window.size(), QSize(1000, 700));
+    QVERIFY(canvasColours(window, 290) > 30);
+    QVERIFY(QFile::remove(picture));
+}
+
+void TestVkviewer::screenshot_atOtherResolutions_data()
+{
+    QTest::addColumn<QString>("dotsPerInch");
+    QTest::addColumn<int>("columnWidth");
+    QTest::newRow("96") << "96" << 290;
+    QTest::newRow("120") << "120" << 362;
+    QTest::newRow("144") << "144" << 435;
+}
+
+void TestVkviewer::screenshot_atOtherResolutions()
+{
+    QFETCH(QString, dotsPerInch);
+    QFETCH(int, columnWidth);
+    const QString picture = path("resolution.png");
+    QCOMPARE(run({ "--screenshot", picture, "--size", "800x600", sample("lamp-spectrum.raw") },
+                 { { "QT_FONT_DPI", dotsPerInch } }),
+        0);
+    const QImage window(picture);
+    QCOMPARE(window.size(), QSize(800, 600));
+    // The column's border: its last pixel column is darker than anything right or left of it.
+    const int y = 400;
+    QCOMPARE(QColor(window.pixel(columnWidth - 1, y)), QColor(9, 11, 14));
+    QCOMPARE(QColor(window.pixel(columnWidth - 2, y)), QColor(63, 73, 86));
+}
+
+void TestVkviewer::screenshot_withoutADisplay()
+{
+    const QString picture = path("headless.png");
+    QCOMPARE(run({ "--screenshot", picture, sample("lamp-spectrum.raw") },
+                 { { "QT_QPA_PLATFORM", "" }, { "DISPLAY", "" }, { "WAYLAND_DISPLAY", "" } }),
+        0);
+    QVERIFY(!QImage(picture).isNull());
+}
+
+void TestVkviewer::failures_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("error");
+    const QString lamp = sample("lamp-spectrum.raw");
+    const QString out = path("never.png");
+    const QString gone = path("gone.raw");
+    const QString notes = written("notes.txt", "hello");
+    const QString deep = path("no/such/folder.png");
+    QTest::newRow("missing image")
+        << QStringList { "--screenshot", out, gone } << gone + ": There is no file of this name.";
+    QTest::newRow("unknown suffix") << QStringList { "--screenshot", out, notes }
+                                    << notes
+            + ": Files of the kind \"txt\" are not known. Images end in jpg, jpeg, tif, tiff, bmp, "
+              "png, raw.";
+    QTest::newRow("unwritable") << QStringList { "--screenshot", deep, lamp }
+                                << deep + ": cannot be written: No such file or directory";
+    QTest::newRow("no image") << QStringList { "--screenshot", out }
+                              << "--screenshot needs an image to show";
+    QTest::newRow("unknown option") << QStringList { "--screenshot", out, "--frobnicate" }
+                                    << "unknown option --frobnicate (see --help)";
+    QTest::newRow("absurd size") << QStringList { "--screenshot", out, "--size", "999999x999999",
+        lamp } << "--size needs WIDTHxHEIGHT, each from 1 to 8192";
+    QTest::newRow("tiny size") << QStringList { "--screenshot", out, "--size", "20x20", lamp }
+                               << "the window is at least 640x480 pixels";
+    QTest::newRow("line feed in the name") << QStringList { "--screenshot", out, "a\nb.png" }
+                                           << "a b.png: There is no file of this name.";
+}
+
+void TestVkviewer::failures()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, error);
+    QCOMPARE(run(arguments), 1);
+    QCOMPARE(QString::fromUtf8(m_errors), "vkviewer: " + error + "\n");
+    QVERIFY(m_output.isEmpty());
+    QVERIFY(!QFile::exists(path("never.png")));
+}
+
+void TestVkviewer::hostileFiles_data()
+{
+    QTest::addColumn<QString>("file");
+    const QByteArray chart = content(sample("colour-chart.png"));
+    const QByteArray target = content(sample("grey-target-odd-width.bmp"));
+    const QByteArray lamp = content(sample("lamp-spectrum.raw"));
+    QVERIFY(chart.size() > 6000 && target.size() > 6000 && lamp.size() > 6000);
+    QByteArray corrupt = chart;
+    corrupt.replace(1000, 3000, QByteArray(3000, '\x5A'));
+    QTest::newRow("empty PNG") << written("empty.png", "");
+    QTest::newRow("cut PNG") << written("cut.png", chart.left(5000));
+    QTest::newRow("corrupt PNG") << written("corrupt.png", corrupt);
+    QTest::newRow("header of a PNG") << written("header.png", chart.left(20));
+    QTest::newRow("cut BMP") << written("cut.bmp", target.left(3000));
+    QTest::newRow("text as JPEG") << written("text.jpg", "hello");
+    QTest::newRow("zeros as TIFF") << written("zeros.tif", QByteArray(5000, '\0'));
+    QTest::newRow("zeros as raw") << written("zeros.raw", QByteArray(5000, '\0'));
+    RawHeader header;
+    header.width = header.height = 65535;
+    header.channels = header.bytesPerChannel = 255;
+    header.dataSize = 0xFFFFFFFFu;
+    QTest::newRow("raw beyond memory") << written("huge.raw", encodedRawHeader(header) + "abc");
+    header.width = 0;
+    QTest::newRow("raw without pixels") << written("none.raw", encodedRawHeader(header));
+    QTest::newRow("raw, signature alone") << written("signature.raw", "VORLAK");
+}
+
+void TestVkviewer::hostileFiles()
+{
+    QFETCH(QString, file);
+    QVERIFY(!file.isEmpty());
+    QCOMPARE(run({ "--screenshot", path("never.png"), file }), 1);
+    QCOMPARE(m_errors.count('\n'), 1); // nothing of the codecs' own
+    QVERIFY(m_errors.startsWith("vkviewer: " + file.toUtf8() + ": "));
+    QVERIFY(!QFile::exists(path("never.png")));
+}
+
+void TestVkviewer::noDisplay()
+{
+#ifdef Q_OS_LINUX
+    QCOMPARE(
+        run({}, { { "QT_QPA_PLATFORM", "" }, { "DISPLAY", "" }, { "WAYLAND_DISPLAY", "" } }), 1);
+    QCOMPARE(m_errors.count('\n'), 1);
+#else
+    QSKIP("only the X and Wayland platforms can be without a display");
+#endif
+}
+
+void TestVkviewer::palettesStandBesideTheProgram()
+{
+    const QDir folder(QFileInfo(VKVIEWER_PROGRAM).absolutePath() + "/pal");
+    for (const char* name : { "red.pal", "green.pal", "blue.pal", "color.pal" }) {
+        QCOMPARE(content(folder.filePath(name)).count('\n'), 256);
+    }
+}
+
+QTEST_GUILESS_MAIN(TestVkviewer)
+#include "tst_vkviewer.moc"
