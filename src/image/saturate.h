@@ -11,7 +11,7 @@
 /// large or not a number, can overflow an int. Values inside the bound come out exactly as the
 /// plain conversion gives them.
 
-/// Largest magnitude of a converted coordinate: two of them still add up within an int.
+/// Largest magnitude of a converted coordinate: it leaves room for an extent to be added.
 constexpr double coordinateBound = 1073741824.0; // 2^30
 
 /// `value` limited to -2^30 .. 2^30; 0 for NaN.

@@ -3,6 +3,7 @@
 #include "vkintensitywidget_export.h"
 
 #include <QPixmap>
+#include <QPointer>
 #include <QString>
 #include <QWidget>
 
@@ -52,5 +53,5 @@ private:
     QPixmap m_headerSkin;
     QPixmap m_bodySkin;
     QPixmap m_borderSkin;
-    CVKIntensityMdiWidget* m_host = nullptr;
+    QPointer<CVKIntensityMdiWidget> m_host; // deletes itself when closed
 };

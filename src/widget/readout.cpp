@@ -1,0 +1,22 @@
+#include "widget/readout.h"
+
+#include "image/imagedata.h"
+
+#include <algorithm>
+
+ReadoutPixel imageViewPixel(int x, int y, int height)
+{
+    return ReadoutPixel { x, y, double(height) - 1.0 - y };
+}
+
+QString readoutText(const ReadoutPixel& pixel, const ImageData& image, const ReadoutAxis& xAxis,
+    const ReadoutAxis& yAxis)
+{
+    const int x = std::min(std::max(pixel.x, 0), image.width);
+    const int row = std::min(std::max(pixel.row, 0), image.height);
+    return QStringLiteral("X:")
+        + QString::number(x * xAxis.scale + xAxis.offset, 'f', xAxis.decimals)
+        + QStringLiteral("  Y:")
+        + QString::number(pixel.shownY * yAxis.scale + yAxis.offset, 'f', yAxis.decimals)
+        + QStringLiteral("\nData:") + QString::number(image.pixelValue(x, row));
+}
