@@ -225,6 +225,7 @@ void CVKIntensityMdiWidget::updateReadout(int x, int y)
     }
     m_readout->setPlainText(
         readoutText(imageViewPixel(x, y, m_image.height), m_image, ReadoutAxis(), ReadoutAxis()));
+    placeReadout(height());
     update();
 }
 
@@ -234,7 +235,14 @@ void CVKIntensityMdiWidget::resizeEvent(QResizeEvent* event)
     m_view->setFixedSize(canvas);
     m_scene->setSceneRect(0.0, 0.0, canvas.width(), canvas.height());
     layOutImageView(canvas);
-    m_readout->setPos(0.0, canvas.height() - m_readout->boundingRect().height() - 10.0);
+    placeReadout(canvas.height());
+}
+
+/// Puts the read-out into the bottom left corner of a canvas of `canvasHeight` units; to be called
+/// whenever the number of its lines may have changed.
+void CVKIntensityMdiWidget::placeReadout(int canvasHeight)
+{
+    m_readout->setPos(0.0, canvasHeight - m_readout->boundingRect().height() - 10.0);
 }
 
 void CVKIntensityMdiWidget::layOutImageView(const QSize& canvas)

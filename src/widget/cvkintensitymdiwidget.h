@@ -73,6 +73,7 @@ private:
     void updateGrayRange();
     void layOutImageView(const QSize& canvas);
     void updateReadout(int x, int y);
+    void placeReadout(int canvasHeight);
 
     QPixmap m_background;
     ImageData m_image;

@@ -581,7 +581,9 @@ void TestCVKIntensityMdiWidget::close_andLoadAgainConnectsOnce()
 void TestCVKIntensityMdiWidget::resize_movesTheReadout()
 {
     Host host;
-    openSquare(host);
+    openSquare(host); // the text has two lines from now on
+    QCOMPARE(
+        host.readout->pos(), QPointF(0.0, 800.0 - host.readout->boundingRect().height() - 10.0));
     host.widget.resize(900, 600);
     QCOMPARE(host.view->size(), QSize(900, 600));
     QCOMPARE(host.scene->sceneRect(), QRectF(0.0, 0.0, 900.0, 600.0));
