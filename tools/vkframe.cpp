@@ -23,7 +23,7 @@ constexpr int exitUsage = 2;
 
 int fail(const QString& message, int code)
 {
-    std::fprintf(stderr, "vkframe: %s\n", qUtf8Printable(message));
+    std::fprintf(stderr, "vkframe: %s\n", qUtf8Printable(message.simplified()));
     return code;
 }
 

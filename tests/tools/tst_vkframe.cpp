@@ -107,6 +107,7 @@ void TestVkframe::errors_data()
     QTest::newRow("too few names") << QStringList { "raw", "a.png" } << 2;
     QTest::newRow("unknown scene") << QStringList { "scene", "moon", path("moon.raw") } << 2;
     QTest::newRow("missing image") << QStringList { "raw", path("no.png"), path("no.raw") } << 1;
+    QTest::newRow("line feed in a name") << QStringList { "raw", "a\nb.png", path("no.raw") } << 1;
     QTest::newRow("a folder") << QStringList { "raw", m_folder.path(), path("no.raw") } << 1;
     QTest::newRow("unwritable") << QStringList { "scene", "lamp", path("no/such/lamp.raw") } << 1;
     QTest::newRow("unwritable picture")
