@@ -18,16 +18,11 @@ QImage columnHeader()
     return image;
 }
 
-/// Stretched sideways, repeated downwards: shaded across only.
+/// Stretched sideways, repeated downwards. Plain: a gradient this wide would show its steps.
 QImage columnBody()
 {
     QImage image = skinCanvas(290, 64);
-    QPainter painter(&image);
-    QLinearGradient shade(0.0, 0.0, 290.0, 0.0);
-    shade.setColorAt(0.0, QColor(36, 41, 49));
-    shade.setColorAt(0.5, QColor(33, 38, 46));
-    shade.setColorAt(1.0, QColor(28, 33, 40));
-    painter.fillRect(image.rect(), shade);
+    image.fill(QColor(32, 37, 45));
     return image;
 }
 
