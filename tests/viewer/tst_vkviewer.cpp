@@ -243,7 +243,7 @@ void TestVkviewer::noDisplay()
         run({}, { { "QT_QPA_PLATFORM", "" }, { "DISPLAY", "" }, { "WAYLAND_DISPLAY", "" } }), 1);
     QCOMPARE(m_errors.count('\n'), 1);
 #else
-    QSKIP("only the X and Wayland platforms can be without a display");
+    QTest::qSkip("only X and Wayland can be without a display", __FILE__, __LINE__);
 #endif
 }
 
