@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QImageReader>
 
+#include <algorithm>
+
 namespace {
 
 QString text(const char* source)
@@ -64,6 +66,11 @@ QString rawProblem(const QString& path)
     }
     if (pixelByteCount(header) == 0) {
         return text("This raw camera file holds no pixels.");
+    }
+    if (isHugeRawFileCutShort(path)) {
+        return text("This raw camera file claims %1 x %2 pixels but does not hold them.")
+            .arg(header.width)
+            .arg(header.height);
     }
     return text("This raw camera file claims %1 x %2 pixels with %3 channels of %4 bytes, which is "
                 "more than can be loaded.")
@@ -124,6 +131,17 @@ bool isRawFileWithoutPixels(const QString& path)
     RawHeader header;
     return suffixOf(path) == "raw" && readRawHeader(path, &header) == RawFileError::None
         && pixelByteCount(header) == 0;
+}
+
+bool isHugeRawFileCutShort(const QString& path)
+{
+    constexpr quint64 hugeByteCount = quint64(256) << 20;
+    RawHeader header;
+    if (suffixOf(path) != "raw" || readRawHeader(path, &header) != RawFileError::None) {
+        return false;
+    }
+    const quint64 held = quint64(std::max(QFileInfo(path).size() - rawHeaderSize, qint64(0)));
+    return pixelByteCount(header) > hugeByteCount && held < pixelByteCount(header);
 }
 
 QString imageSummary(const QString& path)

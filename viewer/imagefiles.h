@@ -18,5 +18,10 @@ QString loadProblem(const QString& path);
 /// Whether the file is a raw camera file whose header says that it holds no pixels.
 bool isRawFileWithoutPixels(const QString& path);
 
+/// Whether a raw camera file is cut so short that loading it would only fill memory: its header
+/// claims more than 256 MiB of pixels, and the file does not hold them. A few bytes could else ask
+/// for many gigabytes. Smaller files load however short they are.
+bool isHugeRawFileCutShort(const QString& path);
+
 /// Size and, where it is known without reading the pixels, depth; empty when neither is.
 QString imageSummary(const QString& path);

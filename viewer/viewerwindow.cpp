@@ -110,7 +110,7 @@ bool ViewerWindow::loadIntoWidget(const QString& path)
     }
     m_intensityWidget->closeImage();
     m_pages->setCurrentWidget(m_intensityWidget);
-    if (!m_intensityWidget->loadImage(path)) {
+    if (isHugeRawFileCutShort(path) || !m_intensityWidget->loadImage(path)) {
         return false;
     }
     if (isRawFileWithoutPixels(path)) {

@@ -26,6 +26,8 @@ private Q_SLOTS:
     void problem_longSuffixIsCut();
     void rawWithoutPixels_data();
     void rawWithoutPixels();
+    void hugeRawCutShort_data();
+    void hugeRawCutShort();
     void summary_data();
     void summary();
 
@@ -66,6 +68,9 @@ void TestImageFiles::initTestCase()
     header.width = header.height = 65535;
     header.channels = header.bytesPerChannel = 255;
     write("huge.raw", encodedRawHeader(header));
+    header.channels = header.bytesPerChannel = 1;
+    write("sparse.raw", encodedRawHeader(header));
+    QVERIFY(QFile::resize(path("sparse.raw"), Q_INT64_C(4294837249))); // 1024 + 65535 x 65535
     QVERIFY(QImage(12, 9, QImage::Format_RGB32).save(path("real.png")));
 }
 
@@ -106,8 +111,10 @@ void TestImageFiles::problem_data()
                                      << "This raw camera file holds no pixels.";
     QTest::newRow("claims too much")
         << "huge.raw"
-        << "This raw camera file claims 65535 x 65535 pixels with 255 channels of 255 bytes, "
-           "which is more than can be loaded.";
+        << "This raw camera file claims 65535 x 65535 pixels but does not hold them.";
+    QTest::newRow("holds too much") << "sparse.raw"
+                                    << "This raw camera file claims 65535 x 65535 pixels with 1 "
+                                       "channels of 1 bytes, which is more than can be loaded.";
     const QString damaged = ": it is damaged, or of another kind than its suffix says.";
     QTest::newRow("not a PNG") << "text.png"
                                << "The file cannot be read as a PNG image" + damaged;
@@ -168,6 +175,34 @@ void TestImageFiles::rawWithoutPixels()
     QFETCH(QString, name);
     QFETCH(bool, empty);
     QCOMPARE(isRawFileWithoutPixels(path(name)), empty);
+}
+
+void TestImageFiles::hugeRawCutShort_data()
+{
+    QTest::addColumn<int>("height");
+    QTest::addColumn<qint64>("fileSize");
+    QTest::addColumn<bool>("refused");
+    // Rows of 16384 pixels, 16 bit: 8192 rows are 256 MiB.
+    QTest::newRow("256 MiB, none there") << 8192 << qint64(1024) << false;
+    QTest::newRow("a row more, none there") << 8193 << qint64(1024) << true;
+    QTest::newRow("a row more, a byte missing") << 8193 << qint64(268469247) << true;
+    QTest::newRow("a row more, all there") << 8193 << qint64(268469248) << false;
+    QTest::newRow("header cut short") << 8193 << qint64(24) << true;
+}
+
+void TestImageFiles::hugeRawCutShort()
+{
+    QFETCH(int, height);
+    QFETCH(qint64, fileSize);
+    QFETCH(bool, refused);
+    RawHeader header;
+    header.width = 16384;
+    header.height = height;
+    header.channels = 1;
+    header.bytesPerChannel = 2;
+    write("long.raw", encodedRawHeader(header));
+    QVERIFY(QFile::resize(path("long.raw"), fileSize)); // a sparse file: takes no room
+    QCOMPARE(isHugeRawFileCutShort(path("long.raw")), refused);
 }
 
 void TestImageFiles::summary_data()

@@ -108,6 +108,9 @@ void TestViewerWindow::initTestCase()
     header.channels = 1;
     header.bytesPerChannel = 2;
     write("empty.raw", encodedRawHeader(header));
+    header.width = 40000;
+    header.height = 50000;
+    write("claims.raw", encodedRawHeader(header)); // 4 GB that are not there
     write("fake.raw", QByteArray(3000, 'x'));
     write("fake.png", "hello");
 }
@@ -171,7 +174,7 @@ void TestViewerWindow::open_aProblemNamesFileAndReason()
 
 void TestViewerWindow::open_theOldPictureNeverStays()
 {
-    for (const char* name : { "gone.png", "fake.raw", "fake.png", "empty.raw" }) {
+    for (const char* name : { "gone.png", "fake.raw", "fake.png", "empty.raw", "claims.raw" }) {
         ViewerWindow fresh;
         fresh.resize(m_window->size());
         fresh.show();
