@@ -63,6 +63,21 @@ struct Host
             view->viewport(), Qt::LeftButton, Qt::NoModifier, view->mapFromScene(scenePosition));
     }
 
+    /// Presses the left button at a place of the scene and moves the pointer by `step` from there.
+    void drag(const QPointF& scenePosition, const QPoint& step)
+    {
+        QWidget* const viewport = view->viewport();
+        const QPoint start = view->mapFromScene(scenePosition);
+        QCursor::setPos(viewport->mapToGlobal(start));
+        QTest::mousePress(viewport, Qt::LeftButton, Qt::NoModifier, start);
+        const QPoint end = start + step;
+        QCursor::setPos(viewport->mapToGlobal(end));
+        QMouseEvent move(QEvent::MouseMove, end, viewport->mapToGlobal(end), Qt::NoButton,
+            Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(viewport, &move);
+        QTest::mouseRelease(viewport, Qt::LeftButton, Qt::NoModifier, end);
+    }
+
     QStringList paintedTexts()
     {
         RecordingPaintDevice recorded;
@@ -167,6 +182,7 @@ private Q_SLOTS:
     void zoomButtons_zoom();
     void wheel_zooms();
     void strips_scrollTheImage();
+    void strips_areDraggedInTheView();
     void palette_reachesTheDisplayImage();
     void palette_withoutImageIsKeptByTheBar();
     void titles_arePainted();
@@ -496,6 +512,23 @@ void TestCVKIntensityMdiWidget::strips_scrollTheImage()
     Q_EMIT host.leftCurve->scrollDistance(-4);
     QCOMPARE(host.image->drawRect, before.translated(10.0, -10.0));
     QCOMPARE(host.widget.analysis()->drawRect, host.image->drawRect.toRect());
+}
+
+void TestCVKIntensityMdiWidget::strips_areDraggedInTheView()
+{
+    Host host;
+    openSquare(host);
+    host.click(QPointF(571.0, 366.0));
+    host.image->zoomIn();
+    const QRectF before = host.image->drawRect;
+    // The pointer goes left: the view goes on to the right. It is held on its row meanwhile.
+    host.drag(QPointF(600.0, 740.0), QPoint(-7, 4));
+    QCOMPARE(host.image->drawRect, before.translated(10.0, 0.0));
+    QCOMPARE(QCursor::pos(), host.view->viewport()->mapToGlobal(QPoint(593, 740)));
+    // Downward: the view goes up.
+    host.drag(QPointF(175.0, 300.0), QPoint(3, 8));
+    QCOMPARE(host.image->drawRect, before.translated(10.0, -10.0));
+    QCOMPARE(QCursor::pos(), host.view->viewport()->mapToGlobal(QPoint(175, 308)));
 }
 
 void TestCVKIntensityMdiWidget::palette_reachesTheDisplayImage()
