@@ -10,12 +10,6 @@ CrossItem::CrossItem(QGraphicsItem* parent)
 {
 }
 
-void CrossItem::moveTo(const QPointF& point)
-{
-    previousPosition = position;
-    position = point;
-}
-
 QRectF CrossItem::boundingRect() const
 {
     return QRectF(0.0, 0.0, 2.0 * halfLength, 2.0 * halfLength);

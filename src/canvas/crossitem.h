@@ -21,9 +21,6 @@ public:
     QPointF position; ///< centre, in the parent's item units
     QPointF previousPosition; ///< the centre before the last move; kept by the owner
 
-    /// Moves the centre to `point` and keeps the one before.
-    void moveTo(const QPointF& point);
-
     /// Deliberate: twice the arm length in each direction from the origin, wherever the cross is.
     QRectF boundingRect() const override;
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;

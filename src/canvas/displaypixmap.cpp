@@ -6,10 +6,19 @@
 #include <QPainter>
 #include <QPixmap>
 
+#include <algorithm>
 #include <memory>
 #include <new>
 
 namespace {
+
+/// Longest side that the raster painter draws on and, counted in source pixels, scales rightly.
+constexpr int longestPaintedSide = 32767;
+
+bool isPaintable(const QSize& size)
+{
+    return size.width() <= longestPaintedSide && size.height() <= longestPaintedSide;
+}
 
 /// A pixmap of `size` whose memory comes in large pages where the platform has them; null without
 /// memory.
@@ -32,11 +41,31 @@ QPixmap pixmapOfSize(const QSize& size)
     return QPixmap::fromImage(std::move(image));
 }
 
+/// Draws what `source` has in the paintable piece of `image` that starts at `origin`.
+void drawPiece(QPainter& painter, const QRectF& target, const QImage& image, const QRectF& source,
+    const QPoint& origin)
+{
+    const int columns = std::min(longestPaintedSide, image.width() - origin.x());
+    const int rows = std::min(longestPaintedSide, image.height() - origin.y());
+    const QRectF part = source.intersected(QRectF(origin, QSizeF(columns, rows)));
+    if (part.isEmpty()) {
+        return;
+    }
+    const double across = target.width() / source.width();
+    const double down = target.height() / source.height();
+    const QRectF place(target.x() + (part.x() - source.x()) * across,
+        target.y() + (part.y() - source.y()) * down, part.width() * across, part.height() * down);
+    const uchar* const pixels
+        = image.constScanLine(origin.y()) + qint64(origin.x()) * (image.depth() / 8);
+    const QImage piece(pixels, columns, rows, image.bytesPerLine(), image.format());
+    painter.drawImage(place, piece, part.translated(-origin));
+}
+
 } // namespace
 
 void copyToPixmap(const QImage& image, QPixmap& pixmap)
 {
-    if (image.hasAlphaChannel()) {
+    if (image.hasAlphaChannel() || !isPaintable(image.size())) {
         pixmap = QPixmap::fromImage(image);
         return;
     }
@@ -49,4 +78,19 @@ void copyToPixmap(const QImage& image, QPixmap& pixmap)
     QPainter painter(&pixmap);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.drawImage(0, 0, image);
+}
+
+void drawPixmapPart(
+    QPainter& painter, const QRectF& target, const QPixmap& pixmap, const QRectF& source)
+{
+    if (isPaintable(pixmap.size()) || source.isEmpty()) {
+        painter.drawPixmap(target, pixmap, source);
+        return;
+    }
+    const QImage image = pixmap.toImage(); // shares the pixels
+    for (qint64 top = 0; top < image.height(); top += longestPaintedSide) {
+        for (qint64 left = 0; left < image.width(); left += longestPaintedSide) {
+            drawPiece(painter, target, image, source, QPoint(int(left), int(top)));
+        }
+    }
 }

@@ -9,6 +9,7 @@
 #include <QImage>
 #include <QMutexLocker>
 #include <QPainter>
+#include <QPointer>
 
 #include <algorithm>
 
@@ -52,15 +53,23 @@ void ImageLayoutItem::setImage(QImage* displayImage)
     {
         QMutexLocker locker(&mutex);
         image = displayImage;
+        ++m_imagesSet;
         if (!hasImage()) {
             return;
         }
         refreshPixmap();
     }
+    const QPointer<ImageLayoutItem> self(this);
     computeScales();
-    fit();
-    moveCross();
-    resetAnchor();
+    if (self) {
+        fit();
+    }
+    if (self) {
+        moveCross();
+    }
+    if (self) {
+        resetAnchor();
+    }
 }
 
 /// To be called with the mutex held.
@@ -83,9 +92,14 @@ void ImageLayoutItem::updateImage()
 void ImageLayoutItem::sizeChanged()
 {
     adaptContentToImage();
+    const QPointer<ImageLayoutItem> self(this);
     computeScales();
-    fit();
-    moveCross();
+    if (self) {
+        fit();
+    }
+    if (self) {
+        moveCross();
+    }
 }
 
 void ImageLayoutItem::adaptContentToImage()
@@ -175,9 +189,10 @@ void ImageLayoutItem::scroll(int distance, Qt::Orientation orientation)
         anchor.setY(step.anchor);
         visible.moveTop(step.origin);
     }
-    const QImage* const scrolled = image;
+    const QPointer<ImageLayoutItem> self(this);
+    const uint scrolledImage = m_imagesSet;
     Q_EMIT changeAnchorImagePosition(anchor);
-    if (image == scrolled && hasImage()) { // a receiver may have taken the image away
+    if (self && m_imagesSet == scrolledImage) {
         showView(visible);
     }
 }
@@ -185,22 +200,29 @@ void ImageLayoutItem::scroll(int distance, Qt::Orientation orientation)
 /// Shows the part `visible` of the image at the present scale and announces it.
 void ImageLayoutItem::showView(const QRectF& visible)
 {
+    const QPointer<ImageLayoutItem> self(this);
     drawRect = visible;
     moveCross();
-    if (!hasImage()) {
+    if (!self || !hasImage()) {
         return;
     }
     Q_EMIT changeDrawRect(drawRect);
-    update();
+    if (self) {
+        update();
+    }
 }
 
 void ImageLayoutItem::resetAnchor()
 {
-    if (hasImage()) {
-        anchor = QPointF(image->width() / 2, image->height() - 1);
+    if (!hasImage()) {
+        return;
     }
+    const QPointer<ImageLayoutItem> self(this);
+    anchor = QPointF(image->width() / 2, image->height() - 1);
     moveCross();
-    Q_EMIT changeAnchorImagePosition(anchor);
+    if (self) {
+        Q_EMIT changeAnchorImagePosition(anchor);
+    }
 }
 
 void ImageLayoutItem::moveCross()
@@ -210,7 +232,8 @@ void ImageLayoutItem::moveCross()
 
 void ImageLayoutItem::placeCross(const QPointF& position)
 {
-    cross.moveTo(position);
+    cross.previousPosition = cross.position;
+    cross.position = position;
     Q_EMIT changeAnchorPosition(position);
 }
 
@@ -232,8 +255,14 @@ void ImageLayoutItem::mousePressEvent(QGraphicsSceneMouseEvent* event)
     if (event->buttons() == Qt::LeftButton && sensitive.contains(event->pos())) {
         const QPointF position = snappedToPixel(event->pos(), scale, size);
         anchor = imagePixelAt(position - QPointF(border, border));
+        const QPointer<ImageLayoutItem> self(this);
         placeCross(position);
-        Q_EMIT changeAnchorImagePosition(anchor);
+        if (self) {
+            Q_EMIT changeAnchorImagePosition(anchor);
+        }
+        if (!self) {
+            return;
+        }
         update();
     }
     QGraphicsItem::mousePressEvent(event);
@@ -253,8 +282,8 @@ void ImageLayoutItem::drawContents(QPainter* painter)
 {
     QMutexLocker locker(&mutex);
     if (hasImage() && !pixmap.isNull()) {
-        painter->drawPixmap(
-            QRectF(borderWidth, borderWidth, size.width(), size.height()), pixmap, drawRect);
+        drawPixmapPart(*painter, QRectF(borderWidth, borderWidth, size.width(), size.height()),
+            pixmap, drawRect);
     }
 }
 

@@ -15,7 +15,8 @@ class QImage;
 ///
 /// The display image belongs to somebody else; a pointer that is null, or to a null image, counts
 /// as no image: then nothing but the frame is drawn and every view change does nothing. Call
-/// setImage(nullptr) before the image is replaced or destroyed.
+/// setImage(nullptr) before the image is replaced or destroyed. Receivers of a signal may set
+/// another image or none, come back into any slot, or delete the item.
 class ImageLayoutItem : public ComponentWithBordersItem, public QGraphicsLayoutItem
 {
     Q_OBJECT
@@ -39,11 +40,12 @@ public:
     /// Null, or a null image: only the pointer is stored.
     void setImage(QImage* displayImage);
 
-    /// Puts the anchor into the middle of the bottom row and announces it. Without an image only
-    /// the cross is placed anew.
+    /// Puts the anchor into the middle of the bottom row and announces it. Without an image nothing
+    /// happens.
     void resetAnchor();
 
     void setGeometry(const QRectF& rect) override;
+    QSizeF sizeHint(Qt::SizeHint which, const QSizeF& constraint = QSizeF()) const override;
 
 Q_SIGNALS:
     void changeDrawRect(QRectF rect); ///< visible part, image pixels
@@ -67,7 +69,6 @@ protected:
     void drawContents(QPainter* painter) override;
     void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
     void wheelEvent(QGraphicsSceneWheelEvent* event) override;
-    QSizeF sizeHint(Qt::SizeHint which, const QSizeF& constraint = QSizeF()) const override;
 
 private:
     bool hasImage() const;
@@ -82,4 +83,6 @@ private:
     void placeCross(const QPointF& position);
     QPointF imagePixelAt(const QPointF& point) const;
     void showView(const QRectF& visible);
+
+    uint m_imagesSet = 0; ///< counts setImage(): the same QImage object may come with a new image
 };

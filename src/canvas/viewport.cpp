@@ -50,6 +50,7 @@ double snappedCoordinate(double coordinate, double extent, double scale)
 
 QSize contentSizeFor(const QSizeF& available, const QSize& imageSize)
 {
+    Q_ASSERT(!imageSize.isEmpty());
     const double scale = fittingScale(available, imageSize);
     int width = truncated(imageSize.width() * scale);
     int height = truncated(imageSize.height() * scale);
@@ -79,6 +80,7 @@ double fittingScale(const QSizeF& content, const QSize& imageSize)
 ImageView zoomedView(
     const ImageView& before, double scale, const ViewFrame& frame, const QPointF& crossPosition)
 {
+    Q_ASSERT(scale > 0.0 && !frame.content.isEmpty() && !frame.imageSize.isEmpty());
     const int columns = visibleCount(frame.content.width(), scale, frame.imageSize.width());
     const int rows = visibleCount(frame.content.height(), scale, frame.imageSize.height());
     const QSize sizeBefore = roundedSize(before.visible.size());
@@ -129,6 +131,7 @@ QPointF mapPointFromImage(const QPointF& pixel, const QRectF& visible, const QSi
 
 QPoint mapPointToImage(const QPointF& point, const QRectF& visible, const QSizeF& content)
 {
+    Q_ASSERT(!content.isEmpty());
     const QPoint origin = roundedPoint(visible.topLeft());
     const int x = truncated(visible.width() / content.width() * point.x());
     const int y = truncated(visible.height() / content.height() * point.y());

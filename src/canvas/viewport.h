@@ -9,8 +9,8 @@
 /// mapping between the two. Content coordinates are item units from the content's top-left corner,
 /// image coordinates are image pixels; a scale is item units per image pixel.
 ///
-/// All functions accept any number: what does not fit an int is limited, an empty content or an
-/// empty visible part gives the origin.
+/// Any number may come in, NaN and infinity too: what does not fit an int is limited. Images have
+/// at least one pixel.
 
 /// Content size for an image of `imageSize` pixels in an area of `available` item units: the
 /// image's aspect, but never longer than 4 : 1, at least 4 x 1 before both sides are rounded down

@@ -14,6 +14,7 @@ constexpr int colorBarLayoutWidth = 512;
 
 QSize imageAreaSize(const QSize& canvas, const QSize& imageSize)
 {
+    Q_ASSERT(!imageSize.isEmpty());
     const double across = (canvas.width() - 140) / double(imageSize.width());
     const double down = (canvas.height() - 220) / double(imageSize.height());
     const double scale = std::min(across, down);

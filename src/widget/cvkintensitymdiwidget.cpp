@@ -238,8 +238,9 @@ void CVKIntensityMdiWidget::resizeEvent(QResizeEvent* event)
     placeReadout(canvas.height());
 }
 
-/// Puts the read-out into the bottom left corner of a canvas of `canvasHeight` units; to be called
-/// whenever the number of its lines may have changed.
+/// Puts the read-out into the bottom left corner of a canvas of `canvasHeight` units. Runs after
+/// each text, too: the first one has two lines where there was one, and would reach below the
+/// canvas.
 void CVKIntensityMdiWidget::placeReadout(int canvasHeight)
 {
     m_readout->setPos(0.0, canvasHeight - m_readout->boundingRect().height() - 10.0);

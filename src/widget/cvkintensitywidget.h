@@ -14,8 +14,8 @@ class CVKIntensityMdiWidget;
 ///
 /// The one exported class of the library; use it on the GUI thread only. Close the image before
 /// each load: a load on top of an open image connects everything once more. The skin images come
-/// from the host application's Qt resources; a missing one leaves its part unpainted. The palette
-/// files and all diagnostics are silent: `false` is all that a failed load says.
+/// from the host application's Qt resources; a missing one leaves its part unpainted. `false` is
+/// all that a failed load says; diagnostic lines go to the Qt debug log.
 class VKINTENSITYWIDGET_EXPORT CVKIntensityWidget : public QWidget
 {
     Q_OBJECT
@@ -27,7 +27,9 @@ public:
 
     /// Loads the image file `path`, picking the reader by its suffix (jpg, jpeg, tif, tiff, bmp,
     /// png, raw; any case), and shows it. False, with everything as it was, for a missing file, an
-    /// unknown suffix or data that cannot be read as that format; nothing is thrown or logged.
+    /// unknown suffix or data that cannot be read as that format. Nothing is thrown.
+    /// A raw file whose header gives no width or no height loads, as an image without pixels: true,
+    /// and the canvas keeps the last picture.
     bool loadImage(const QString& path);
 
     /// Forgets the image. The canvas keeps showing the last picture until the next load. Without

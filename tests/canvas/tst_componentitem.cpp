@@ -2,6 +2,7 @@
 #include "support/recordingpaintdevice.h"
 
 #include <QGraphicsLayoutItem>
+#include <QGraphicsScene>
 #include <QPainter>
 #include <QtTest>
 
@@ -65,6 +66,8 @@ private Q_SLOTS:
     void paint_restoresThePainter();
     void borders_frameOfABorderedItem();
     void layout_sizeHints();
+    void growingItemsAreFoundByTheScene();
+    void hasNoSignalsOrSlotsOfItsOwn();
     void layout_geometryMovesButDoesNotResize();
 };
 
@@ -169,6 +172,28 @@ void TestComponentItem::layout_sizeHints()
     QCOMPARE(item.sizeHint(Qt::PreferredSize, constraint), QSizeF(402.0, 52.0));
     QCOMPARE(item.sizeHint(Qt::MaximumSize, constraint), QSizeF(1000.0, 1000.0));
     QCOMPARE(item.sizeHint(Qt::MinimumDescent, constraint), constraint);
+}
+
+void TestComponentItem::growingItemsAreFoundByTheScene()
+{
+    QGraphicsScene scene;
+    auto* const item = new ProbeItem;
+    item->setSize(10.0, 10.0);
+    scene.addItem(item);
+    QVERIFY(scene.items(QPointF(50.0, 50.0)).isEmpty()); // the scene has its index now
+    item->setSize(100.0, 100.0);
+    QCOMPARE(scene.items(QPointF(50.0, 50.0)), QList<QGraphicsItem*> { item });
+    item->setGeometry(QRectF(300.0, 300.0, 10.0, 10.0));
+    QVERIFY(scene.items(QPointF(50.0, 50.0)).isEmpty());
+    QCOMPARE(scene.items(QPointF(350.0, 350.0)), QList<QGraphicsItem*> { item });
+}
+
+void TestComponentItem::hasNoSignalsOrSlotsOfItsOwn()
+{
+    for (const QMetaObject* const meta :
+        { &ComponentItem::staticMetaObject, &ComponentWithBordersItem::staticMetaObject }) {
+        QCOMPARE(meta->methodCount(), meta->methodOffset());
+    }
 }
 
 void TestComponentItem::layout_geometryMovesButDoesNotResize()

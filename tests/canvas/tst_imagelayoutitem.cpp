@@ -6,11 +6,13 @@
 #include <QGraphicsSceneWheelEvent>
 #include <QGraphicsView>
 #include <QImage>
+#include <QPainter>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QWheelEvent>
 #include <QtTest>
 
-#include <memory>
+#include <functional>
 
 namespace {
 
@@ -43,6 +45,23 @@ public:
     }
 
     QStringList lines;
+};
+
+/// Deletes an item from within one of its signals.
+class Deleter : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Deleter(ImageLayoutItem* doomed)
+        : item(doomed)
+    {
+    }
+
+    QPointer<ImageLayoutItem> item;
+
+public Q_SLOTS:
+    void run() { delete item; }
 };
 
 /// An image item in a scene, with whole-number helpers for events.
@@ -103,6 +122,14 @@ private Q_SLOTS:
     void scroll_announcesTheAnchorFirst();
     void scroll_withoutDistanceDoesNothing();
     void scroll_stopsWhenTheImageIsTakenAway();
+    void scroll_stopsWhenTheSameImageObjectIsSetAgain();
+    void zoomOut_isRaisedToTheFittingScale();
+    void setImage_usesTheArmLengthOfTheCross();
+    void setImage_receiversMayComeBack();
+    void resetAnchor_withoutImageDoesNothing();
+    void receiverMayDeleteTheItem_data();
+    void receiverMayDeleteTheItem();
+    void repaintsAfterPressViewChangeAndNewPixels();
     void withoutImage_everyViewChangeDoesNothing();
     void press_placesTheAnchor();
     void press_snapsAtScale12();
@@ -130,9 +157,16 @@ void TestImageLayoutItem::metaObject_listsSignalsAndSlotsInOrder()
 {
     const QMetaObject& meta = ImageLayoutItem::staticMetaObject;
     QStringList methods;
+    QStringList parameters;
     for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
         methods << meta.method(i).methodSignature();
+        parameters << meta.method(i).parameterNames().join(',');
+        const bool isSignal = i - meta.methodOffset() < 5;
+        QCOMPARE(meta.method(i).methodType(), isSignal ? QMetaMethod::Signal : QMetaMethod::Slot);
     }
+    QCOMPARE(parameters,
+        (QStringList { "rect", "size", "rect", "anchor", "anchorImage", "", "", "", "", "distance",
+            "distance" }));
     QCOMPARE(methods,
         (QStringList { "changeDrawRect(QRectF)", "changeImageSize(QSize)",
             "changeItemBoundingRect(QRectF)", "changeAnchorPosition(QPointF)",
@@ -357,6 +391,148 @@ void TestImageLayoutItem::scroll_stopsWhenTheImageIsTakenAway()
     QCOMPARE(log.lines, QStringList { "anchor 200,399" });
 }
 
+void TestImageLayoutItem::scroll_stopsWhenTheSameImageObjectIsSetAgain()
+{
+    Stage stage(400, 400);
+    stage.item->zoomIn();
+    bool again = false;
+    QObject::connect(
+        stage.item, &ImageLayoutItem::changeAnchorImagePosition, stage.item, [&stage, &again]() {
+            if (!again) {
+                again = true;
+                stage.item->setImage(nullptr);
+                stage.image = grayImage(4, 2);
+                stage.item->setImage(&stage.image);
+            }
+        });
+    stage.item->scrollDistanceHorizontal(1);
+    QCOMPARE(stage.item->drawRect, QRectF(0.0, 0.0, 4.0, 2.0));
+}
+
+void TestImageLayoutItem::zoomOut_isRaisedToTheFittingScale()
+{
+    Stage stage(400, 400);
+    stage.item->scale = 1.2;
+    stage.item->zoomOut(); // 0.8 would leave room around the image
+    QVERIFY(stage.item->scale == 1.0);
+}
+
+void TestImageLayoutItem::setImage_usesTheArmLengthOfTheCross()
+{
+    Stage stage(400, 400);
+    stage.item->cross.halfLength = 10;
+    stage.item->setImage(&stage.image);
+    QVERIFY(stage.item->maxScale == 20.0);
+}
+
+void TestImageLayoutItem::setImage_receiversMayComeBack()
+{
+    // Neither a repaint nor new pixels from within a signal may wait for the item's own lock.
+    Stage stage(400, 400);
+    int visits = 0;
+    QObject::connect(stage.item, &ImageLayoutItem::changeImageSize, stage.item, [&]() {
+        stage.item->updateImage();
+        QImage canvas(100, 100, QImage::Format_RGB32);
+        QPainter painter(&canvas);
+        stage.scene.render(&painter);
+        ++visits;
+    });
+    stage.item->setImage(&stage.image);
+    QCOMPARE(visits, 1);
+}
+
+void TestImageLayoutItem::resetAnchor_withoutImageDoesNothing()
+{
+    ImageLayoutItem item(nullptr);
+    item.anchor = QPointF(3.0, 4.0);
+    SignalLog log(item);
+    item.resetAnchor();
+    QCOMPARE(log.lines, QStringList());
+    QCOMPARE(item.anchor, QPointF(3.0, 4.0));
+}
+
+void TestImageLayoutItem::receiverMayDeleteTheItem_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<QByteArray>("signal");
+    const QByteArray size = SIGNAL(changeImageSize(QSize));
+    const QByteArray rect = SIGNAL(changeDrawRect(QRectF));
+    const QByteArray cross = SIGNAL(changeAnchorPosition(QPointF));
+    const QByteArray anchor = SIGNAL(changeAnchorImagePosition(QPointF));
+    const auto row = [](const char* action, const QByteArray& signal) {
+        QTest::newRow(action + signal) << action << signal;
+    };
+    row("scroll", anchor);
+    row("scroll", cross);
+    row("scroll", rect);
+    row("zoom", cross);
+    row("zoom", rect);
+    row("press", cross);
+    row("press", anchor);
+    row("setSize", size);
+    row("setSize", cross);
+    row("setSize", rect);
+    row("setImage", size);
+    row("setImage", cross);
+    row("setImage", rect);
+    row("setImage", anchor);
+    row("resetAnchor", cross);
+    row("resetAnchor", anchor);
+    row("fit", cross);
+}
+
+void TestImageLayoutItem::receiverMayDeleteTheItem()
+{
+    QFETCH(QString, action);
+    QFETCH(QByteArray, signal);
+    QImage image = grayImage(400, 400);
+    QGraphicsScene scene;
+    auto* const item = new ImageLayoutItem(&image);
+    scene.addItem(item);
+    const QPointer<ImageLayoutItem> guard(item);
+    Deleter deleter { item };
+    QObject::connect(item, signal.constData(), &deleter, SLOT(run()));
+    if (action == "scroll") {
+        item->scrollDistanceHorizontal(1);
+    } else if (action == "zoom") {
+        item->zoomIn();
+    } else if (action == "press") {
+        QGraphicsSceneMouseEvent event(QEvent::GraphicsSceneMousePress);
+        event.setPos(QPointF(30.0, 40.0));
+        event.setButton(Qt::LeftButton);
+        event.setButtons(Qt::LeftButton);
+        scene.sendEvent(item, &event);
+    } else if (action == "setSize") {
+        item->setSize(300.0, 300.0);
+    } else if (action == "setImage") {
+        item->setImage(&image);
+    } else if (action == "resetAnchor") {
+        item->resetAnchor();
+    } else {
+        item->fit();
+    }
+    QVERIFY(guard.isNull());
+}
+
+void TestImageLayoutItem::repaintsAfterPressViewChangeAndNewPixels()
+{
+    Stage stage(200, 200);
+    QSignalSpy changes(&stage.scene, SIGNAL(changed(QList<QRectF>)));
+    const auto repaints = [&changes](const std::function<void()>& action) {
+        QCoreApplication::processEvents();
+        changes.clear();
+        action();
+        QCoreApplication::processEvents();
+        return !changes.isEmpty();
+    };
+    QVERIFY(!repaints([] {}));
+    QVERIFY(repaints([&] { stage.press(QPointF(50.0, 50.0)); }));
+    QVERIFY(repaints([&] { stage.item->zoomIn(); }));
+    QVERIFY(repaints([&] { stage.item->scrollDistanceVertical(-1); }));
+    QVERIFY(repaints([&] { stage.item->fit(); }));
+    QVERIFY(repaints([&] { stage.item->updateImage(); }));
+}
+
 void TestImageLayoutItem::withoutImage_everyViewChangeDoesNothing()
 {
     ImageLayoutItem item(nullptr);
@@ -380,6 +556,7 @@ void TestImageLayoutItem::press_placesTheAnchor()
     QCOMPARE(log.lines, (QStringList { "cross 101,301", "anchor 50,150" }));
     QCOMPARE(stage.item->anchor, QPointF(50.0, 150.0));
     QCOMPARE(stage.item->cross.position, QPointF(101.0, 301.0));
+    QCOMPARE(stage.item->cross.previousPosition, QPointF(200.0, 398.0)); // of (100, 199)
 }
 
 void TestImageLayoutItem::press_snapsAtScale12()
@@ -514,9 +691,11 @@ void TestImageLayoutItem::paint_withoutImageDrawsTheFrameOnly()
 void TestImageLayoutItem::layout_hints()
 {
     ImageLayoutItem item(nullptr);
-    const QGraphicsLayoutItem& layoutPart = item;
-    QCOMPARE(layoutPart.preferredSize(), QSizeF(402.0, 402.0));
-    QCOMPARE(layoutPart.maximumSize(), QSizeF(1000.0, 1000.0));
+    const QSizeF constraint(7.0, 9.0);
+    QCOMPARE(item.sizeHint(Qt::MinimumSize, constraint), QSizeF(0.0, 0.0));
+    QCOMPARE(item.sizeHint(Qt::PreferredSize, constraint), QSizeF(402.0, 402.0));
+    QCOMPARE(item.sizeHint(Qt::MaximumSize, constraint), QSizeF(1000.0, 1000.0));
+    QCOMPARE(item.sizeHint(Qt::MinimumDescent, constraint), constraint);
     item.setGeometry(QRectF(30.0, 40.0, 50.0, 60.0));
     QCOMPARE(item.pos(), QPointF(30.0, 40.0));
     QCOMPARE(item.size, QSizeF(400.0, 400.0));

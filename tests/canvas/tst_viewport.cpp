@@ -116,6 +116,14 @@ void TestViewport::zoom_data()
     QTest::newRow("outward, at the origin")
         << QRectF(10.0, 10.0, 66.0, 66.0) << 6.0 << 4.0 << QPointF(20.0, 20.0)
         << QPointF(390.0, 390.0) << QRectF(0.0, 0.0, 100.0, 100.0);
+    // int(50 x 392 / 400) + 100 = 149; 199 - 198 = 1 is less than an arm's 2.5: int(3.0) more.
+    QTest::newRow("an arm is rounded to whole pixels")
+        << QRectF(100.0, 100.0, 100.0, 100.0) << 4.0 << 8.0 << QPointF(198.0, 198.0)
+        << QPointF(392.0, 392.0) << QRectF(152.0, 152.0, 50.0, 50.0);
+    // 300 - 290 is just an arm's length of 10.
+    QTest::newRow("an arm's length is enough")
+        << whole << 1.0 << 2.0 << QPointF(290.0, 290.0) << QPointF(200.0, 200.0)
+        << QRectF(100.0, 100.0, 200.0, 200.0);
     // The old view is taken rounded: origin 101, size 99.
     QTest::newRow("rounds the old view")
         << QRectF(100.6, 100.6, 99.4, 99.4) << 4.0 << 8.0 << QPointF(120.0, 120.0)
@@ -173,6 +181,8 @@ void TestViewport::scroll_data()
     QTest::newRow("anchor pushed by the far edge") << -1 << 2.0 << 135.0 << 90 << 130.0;
     // An arm is 6.67 pixels, rounded up to 7: 7 - 1 + 110.
     QTest::newRow("part of a pixel") << 1 << 3.0 << 112.0 << 110 << 116.0;
+    // 140 - 7
+    QTest::newRow("part of a pixel at the far edge") << -1 << 3.0 << 135.0 << 90 << 133.0;
     QTest::newRow("smallest distance")
         << std::numeric_limits<int>::min() << 2.0 << 120.0 << 90 << 120.0;
 }
@@ -192,6 +202,8 @@ void TestViewport::scroll_atTheLimits()
     QCOMPARE(scrolledSpan(-1, 2.0, 5, 50, 400, 25.0, 20.0).origin, 0);
     QCOMPARE(scrolledSpan(1, 2.0, 345, 50, 400, 370.0, 20.0).origin, 350);
     QCOMPARE(scrolledSpan(1, 0.5, 0, 400, 400, 200.0, 20.0).origin, 0);
+    // View 110 .. 119, narrower than two arms: the near edge pushes to 119, the far one back.
+    QVERIFY(scrolledSpan(1, 2.0, 100, 10, 400, 105.0, 20.0).anchor == 110.0);
 }
 
 void TestViewport::pointFromImage_roundsUp()
