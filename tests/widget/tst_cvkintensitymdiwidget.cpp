@@ -178,6 +178,8 @@ private Q_SLOTS:
     void load_beforeTheFirstLayout();
     void wires_existWhileAnImageIsLoaded();
     void wires_doubleWhenLoadedTwice();
+    void wires_runInOrder();
+    void load_takesTheImageFromTheItemFirst();
     void click_movesTheAnchorAndReadsThePixel();
     void zoomButtons_zoom();
     void wheel_zooms();
@@ -236,9 +238,14 @@ void TestCVKIntensityMdiWidget::metaObject_listsSignalAndSlotsInOrder()
 {
     const QMetaObject& meta = CVKIntensityMdiWidget::staticMetaObject;
     QStringList methods;
+    QStringList parameters;
     for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
         methods << meta.method(i).methodSignature();
+        parameters << meta.method(i).parameterNames().join(',');
+        const bool isSignal = i == meta.methodOffset();
+        QCOMPARE(meta.method(i).methodType(), isSignal ? QMetaMethod::Signal : QMetaMethod::Slot);
     }
+    QCOMPARE(parameters, (QStringList { "itemNames", "pal", "title", "title", "anchor" }));
     QCOMPARE(methods,
         (QStringList { "updateItemNames(QStringList)", "changedPalette(QVector<QColor>)",
             "changedVerticalRulerTitle(QString)", "changedHorizontalRulerTitle(QString)",
@@ -265,6 +272,8 @@ void TestCVKIntensityMdiWidget::canvas_isSetUp()
     QVERIFY(!host.view->horizontalScrollBar()->isEnabled());
     QVERIFY(!host.view->verticalScrollBar()->isEnabled());
     QCOMPARE(host.widget.layout()->contentsMargins(), QMargins());
+    QCOMPARE(host.view->contentsMargins(), QMargins());
+    QCOMPARE(host.scene->backgroundBrush().texture().size(), QSize(10, 100)); // of this program
     QVERIFY(host.scene->parent() == nullptr);
     QCOMPARE(host.readout->font().pixelSize(), 13);
     QCOMPARE(host.readout->defaultTextColor(), QColor(Qt::white));
@@ -457,6 +466,48 @@ void TestCVKIntensityMdiWidget::wires_doubleWhenLoadedTwice()
     }
 }
 
+void TestCVKIntensityMdiWidget::wires_runInOrder()
+{
+    Host host;
+    openSquare(host);
+    const ImageIntensityAnalysis* const engine = host.widget.analysis();
+
+    // An anchor goes to the engine first, to the read-out after; the cross is there before both.
+    QStringList readouts;
+    QVector<int> anchorPositions;
+    QObject::connect(engine, &ImageIntensityAnalysis::updateLineValueRange, &host.widget, [&] {
+        readouts << host.readout->toPlainText();
+        anchorPositions << host.leftCurve->anchorPosition();
+    });
+    host.click(QPointF(571.0, 221.0));
+    QCOMPARE(readouts, QStringList { "X:256  Y:0\nData:1256" }); // still the old one
+    QCOMPARE(anchorPositions, QVector<int> { 146 }); // the new one
+
+    // A view goes to both rulers first, to the engine after.
+    QVector<QVector<QLineF>> ticks { host.bottomRuler->ticks(), host.leftRuler->ticks() };
+    QVector<QVector<QLineF>> ticksAtTheEngine;
+    QObject::connect(engine, &ImageIntensityAnalysis::updateLineValueRange, &host.widget, [&] {
+        ticksAtTheEngine = { host.bottomRuler->ticks(), host.leftRuler->ticks() };
+    });
+    host.image->zoomIn();
+    QVERIFY(ticksAtTheEngine.at(0) != ticks.at(0));
+    QVERIFY(ticksAtTheEngine.at(1) != ticks.at(1));
+    QCOMPARE(ticksAtTheEngine.at(0), host.bottomRuler->ticks());
+    QCOMPARE(ticksAtTheEngine.at(1), host.leftRuler->ticks());
+}
+
+void TestCVKIntensityMdiWidget::load_takesTheImageFromTheItemFirst()
+{
+    Host host;
+    openSquare(host);
+    QVector<bool> shown;
+    QObject::connect(host.widget.analysis(), &ImageIntensityAnalysis::newHistogramSize,
+        &host.widget, [&] { shown << (host.image->image != nullptr); });
+    QVERIFY(host.widget.loadImage(path("small.raw")));
+    QCOMPARE(shown, QVector<bool> { false });
+    QVERIFY(host.image->image != nullptr);
+}
+
 void TestCVKIntensityMdiWidget::click_movesTheAnchorAndReadsThePixel()
 {
     Host host;
@@ -584,10 +635,21 @@ void TestCVKIntensityMdiWidget::close_undoesTheConnectionsAndKeepsThePicture()
 {
     Host host;
     openSquare(host);
+    host.click(QPointF(571.0, 221.0));
+    host.image->zoomIn();
+    QVector<bool> engineHadTheImage;
+    QObject::connect(host.image, &ImageLayoutItem::changeDrawRect, &host.widget,
+        [&] { engineHadTheImage << (host.widget.analysis()->image != nullptr); });
     host.widget.closeImage();
     QVERIFY(host.widget.analysis()->image == nullptr);
+    // The item got the display image once more, before the engine lost the pixels: fitted, with
+    // the anchor in the bottom row.
+    QCOMPARE(engineHadTheImage, QVector<bool> { true });
     QVERIFY(host.image->image == host.widget.analysis()->displayImage);
     QVERIFY(!host.image->image->isNull());
+    QVERIFY(host.image->scale == 580.0 / 512.0);
+    QCOMPARE(host.image->drawRect, QRectF(0.0, 0.0, 512.0, 512.0));
+    QCOMPARE(host.image->anchor, QPointF(256.0, 511.0));
 
     const QString text = host.readout->toPlainText();
     const double scale = host.image->scale;
@@ -606,6 +668,8 @@ void TestCVKIntensityMdiWidget::close_andLoadAgainConnectsOnce()
     host.widget.closeImage();
     QVERIFY(host.widget.loadImage(path("small.raw")));
     QCOMPARE(host.readout->toPlainText(), QString("X:2  Y:0\nData:70"));
+    host.widget.changedAnchorImagePosition(QPointF(1.5, 0.4)); // rounded to (2, 0)
+    QCOMPARE(host.readout->toPlainText(), QString("X:2  Y:1\nData:30"));
     QSignalSpy images(host.widget.analysis(), SIGNAL(updateImage()));
     host.widget.changedPalette(ramp(255, 0, 0));
     QCOMPARE(images.size(), 1);

@@ -9,6 +9,7 @@
 #include <QtTest>
 
 #include <memory>
+#include <new>
 #include <vector>
 
 class TestCVKIntensityWidget : public QObject
@@ -27,6 +28,7 @@ private Q_SLOTS:
     void load_showsTheImage();
     void load_refusesWhatTheHostRefuses();
     void load_withoutHost();
+    void load_letsNothingBeThrown();
     void load_andClose_manyTimes();
     void close_beforeAnyLoad();
     void changeSize_isNeverEmitted();
@@ -145,6 +147,17 @@ void TestCVKIntensityWidget::load_withoutHost()
     widget.closeImage();
     widget.resize(500, 400);
     widget.grab();
+}
+
+void TestCVKIntensityWidget::load_letsNothingBeThrown()
+{
+    CVKIntensityWidget widget;
+    auto* const host = widget.findChild<CVKIntensityMdiWidget*>();
+    const auto connection = QObject::connect(host->analysis(),
+        &ImageIntensityAnalysis::newHistogramSize, host, [] { throw std::bad_alloc(); });
+    QVERIFY(!widget.loadImage(path("frame.raw")));
+    QObject::disconnect(connection);
+    QVERIFY(widget.loadImage(path("frame.raw")));
 }
 
 void TestCVKIntensityWidget::load_andClose_manyTimes()
