@@ -33,12 +33,7 @@ void RulerBarHorizontal::computeSteps()
 
 void RulerBarHorizontal::drawLabels(QPainter* painter)
 {
-    const QFont font = useLabelFont(painter);
-    for (int i = 0; i < labels().size(); ++i) {
-        const QString& text = labels().at(i);
-        painter->drawText(
-            horizontalLabelOrigin(labelledTicks().at(i).p2(), textSize(font, text)), text);
-    }
+    drawLabelsAt(painter, horizontalLabelOrigin);
 }
 
 void RulerBarHorizontal::drawTitle(QPainter* painter)

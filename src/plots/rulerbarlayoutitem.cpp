@@ -50,10 +50,10 @@ void RulerBarLayoutItem::setZoom(double zoom)
 void RulerBarLayoutItem::getValueRange(int* start, int* end) const
 {
     if (start) {
-        *start = truncated(m_range.start);
+        *start = wholeValue(m_range.start);
     }
     if (end) {
-        *end = truncated(m_range.end);
+        *end = wholeValue(m_range.end);
     }
 }
 
@@ -118,9 +118,13 @@ void RulerBarLayoutItem::drawContents(QPainter* painter)
     drawTitle(painter);
 }
 
-QFont RulerBarLayoutItem::useLabelFont(QPainter* painter)
+void RulerBarLayoutItem::drawLabelsAt(QPainter* painter, LabelOrigin origin) const
 {
-    return usePixelSize(painter, labelPixelSize);
+    const QFont font = usePixelSize(painter, labelPixelSize);
+    for (int i = 0; i < m_labels.size(); ++i) {
+        const QString& text = m_labels.at(i);
+        painter->drawText(origin(m_labelledTicks.at(i).p2(), textSize(font, text)), text);
+    }
 }
 
 QFont RulerBarLayoutItem::useTitleFont(QPainter* painter)

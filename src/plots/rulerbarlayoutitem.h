@@ -28,7 +28,7 @@ public:
     void setZoom(double zoom);
     double zoom() const { return m_span.zoom; }
 
-    /// Writes the stored range, each end truncated toward zero and limited to -2^30 .. 2^30; -1
+    /// Writes the stored range, each end truncated toward zero and limited to what an int holds; -1
     /// means there is none. Null pointers are ignored.
     void getValueRange(int* start, int* end) const;
 
@@ -70,8 +70,12 @@ protected:
     /// Keeps `built` and makes its labels.
     void storeTicks(const RulerTicks& built);
 
-    // Each sets its pixel size on the painter's font and answers the font.
-    static QFont useLabelFont(QPainter* painter);
+    /// Baseline origin of a label `textSize` large whose tick ends at `tickEnd`.
+    using LabelOrigin = QPoint (*)(const QPointF& tickEnd, const QSizeF& textSize);
+    /// Draws every label where `origin` puts it.
+    void drawLabelsAt(QPainter* painter, LabelOrigin origin) const;
+
+    /// Sets the title's pixel size on the painter's font and answers the font.
     static QFont useTitleFont(QPainter* painter);
     /// Width of `text`, height of a line.
     static QSizeF textSize(const QFont& font, const QString& text);

@@ -34,12 +34,7 @@ void RulerBarVertical::computeSteps()
 
 void RulerBarVertical::drawLabels(QPainter* painter)
 {
-    const QFont font = useLabelFont(painter);
-    for (int i = 0; i < labels().size(); ++i) {
-        const QString& text = labels().at(i);
-        painter->drawText(
-            verticalLabelOrigin(labelledTicks().at(i).p2(), textSize(font, text)), text);
-    }
+    drawLabelsAt(painter, verticalLabelOrigin);
 }
 
 void RulerBarVertical::drawTitle(QPainter* painter)

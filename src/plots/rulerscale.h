@@ -15,7 +15,7 @@
 struct RulerSteps
 {
     int major = 1; ///< units per major tick
-    int majorCount = 5; ///< major steps over the whole extent
+    int majorCount = 5; ///< major steps over the whole extent; kept, not drawn
     int minor = 1; ///< units per tick
     int minorPerMajor = 5; ///< every so many ticks one is major
     double pixelsPerUnit = 1.0;

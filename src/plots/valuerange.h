@@ -1,6 +1,8 @@
 #pragma once
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 /// Calibrated values at position 0 and at the position equal to the count of units, such as the
 /// wavelengths at both ends of an image row. A negative end means there is no calibration.
@@ -28,4 +30,13 @@ inline ValueRange storedValueRange(double start, double end)
     // Deliberate: a short span is widened downward, also below zero: (0, 3) is kept as (-2, 3) and
     // then counts as uncalibrated.
     return ValueRange { std::min(start, end - 5.0), end };
+}
+
+/// `value` truncated toward zero, limited to what an int holds; 0 for NaN. A calibrated value is no
+/// coordinate: the whole range of an int counts, since no extent is added to it.
+inline int wholeValue(double value)
+{
+    const double lowest = std::numeric_limits<int>::min();
+    const double highest = std::numeric_limits<int>::max();
+    return std::isnan(value) ? 0 : int(std::clamp(value, lowest, highest));
 }

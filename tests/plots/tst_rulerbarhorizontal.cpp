@@ -1,5 +1,6 @@
 #include "plots/rulerbarhorizontal.h"
 #include "support/recordingpaintdevice.h"
+#include "support/sceneitems.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -9,20 +10,12 @@
 
 namespace {
 
-void place(RulerBarLayoutItem& ruler, double width, double height)
-{
-    ruler.setSize(width, height);
-    ruler.setGeometry(QRectF(0.0, 0.0, width, height));
-}
-
 QVector<RecordingPaintDevice::Entry> drawn(
     RulerBarLayoutItem& ruler, RecordingPaintDevice::Kind kind)
 {
     RecordingPaintDevice recorded;
     QPainter painter(&recorded);
-    QFont font;
-    font.setPixelSize(30); // replaced by the ruler's own sizes
-    painter.setFont(font);
+    painter.setFont(largeItalicFont()); // the size is replaced by the ruler's own
     ruler.paint(&painter, nullptr, nullptr);
     return recorded.of(kind);
 }
@@ -39,12 +32,15 @@ private Q_SLOTS:
     void valueAxis_0to255();
     void beforeTheFirstGeometry_ticksAreOneUnitApart();
     void scrolled_startsAtTheVisibleUnit();
+    void widerThanTheLayoutAllows_fillsTheItem();
     void crossAxis_measuresTheRows();
+    void crossAxis_startsAtTheTopRow();
     void imageSize_showsAtTheNextRebuild();
     void badRectangles_data();
     void badRectangles();
     void hugeRectangles_data();
     void hugeRectangles();
+    void hugeRectangle_isMeasuredUpToTheBound();
     void noWidth_hasNoTicks();
     void drawing_labelsAreCentredUnderTheirTicks();
     void drawing_titleIsCentred();
@@ -101,6 +97,15 @@ void TestRulerBarHorizontal::scrolled_startsAtTheVisibleUnit()
     QCOMPARE(ruler.labels(), (QStringList { "80", "160", "240", "320", "400" }));
 }
 
+void TestRulerBarHorizontal::widerThanTheLayoutAllows_fillsTheItem()
+{
+    RulerBarHorizontal ruler(QString(), nullptr);
+    place(ruler, 1200.0, 50.0);
+    QCOMPARE(ruler.geometry().width(), 1000.0); // the layout's maximum
+    QCOMPARE(ruler.ticks().size(), 20); // every 20 units = 60 pixels
+    QCOMPARE(ruler.ticks().last(), QLineF(1140, 0, 1140, 3));
+}
+
 void TestRulerBarHorizontal::crossAxis_measuresTheRows()
 {
     RulerBarHorizontal ruler(QString(), nullptr);
@@ -113,6 +118,18 @@ void TestRulerBarHorizontal::crossAxis_measuresTheRows()
     QCOMPARE(ruler.labels(), (QStringList { "200", "400", "600", "800" }));
     ruler.changedShowValueRange(100.0, 300.0); // over 2000 rows
     QCOMPARE(ruler.labels().first(), QString("120.0"));
+}
+
+void TestRulerBarHorizontal::crossAxis_startsAtTheTopRow()
+{
+    RulerBarHorizontal ruler(QString(), nullptr);
+    ruler.setCrossAxis(true);
+    place(ruler, 400.0, 50.0);
+    ruler.changedActualSize(QSize(400, 1000));
+    ruler.changedActualRect(QRectF(0.0, 50.0, 300.0, 400.0));
+    // rows 50 .. 449, a tick every 20: the first is row 60, 10 pixels in
+    QCOMPARE(ruler.ticks().first(), QLineF(10, 0, 10, 3));
+    QCOMPARE(ruler.labels(), (QStringList { "80", "160", "240", "320", "400" }));
 }
 
 void TestRulerBarHorizontal::imageSize_showsAtTheNextRebuild()
@@ -176,6 +193,16 @@ void TestRulerBarHorizontal::hugeRectangles()
     QCOMPARE(ruler.labels(), (QStringList { "80", "160", "240", "320" }));
 }
 
+void TestRulerBarHorizontal::hugeRectangle_isMeasuredUpToTheBound()
+{
+    RulerBarHorizontal ruler(QString(), nullptr);
+    place(ruler, 400.0, 50.0);
+    ruler.changedActualRect(QRectF(0.0, 0.0, 1e300, 400.0));
+    // 2^30 columns: a tick every 60,000,000 = 22.35 pixels, every fifth one major
+    QCOMPARE(ruler.ticks().size(), 18); // x = 0 .. 379.98
+    QCOMPARE(ruler.labels(), (QStringList { "300000000", "600000000", "900000000" }));
+}
+
 void TestRulerBarHorizontal::noWidth_hasNoTicks()
 {
     RulerBarHorizontal ruler(QString(), nullptr);
@@ -196,13 +223,14 @@ void TestRulerBarHorizontal::drawing_labelsAreCentredUnderTheirTicks()
     QCOMPARE(drawn(ruler, RecordingPaintDevice::Line).size(), 20);
     const QVector<RecordingPaintDevice::Entry> texts = drawn(ruler, RecordingPaintDevice::Text);
     QCOMPARE(texts.size(), 4);
-    QFont font;
+    QFont font = largeItalicFont();
     font.setPixelSize(13);
     const QFontMetricsF metrics(font);
     const QStringList labels { "80", "160", "240", "320" };
     for (int i = 0; i < 4; ++i) {
         QCOMPARE(texts.at(i).text, labels.at(i));
         QCOMPARE(texts.at(i).font.pixelSize(), 13);
+        QVERIFY(texts.at(i).font.italic());
         QCOMPARE(texts.at(i).pen.color(), QColor(Qt::white));
         const double x = 80.0 * (i + 1) - metrics.horizontalAdvance(labels.at(i)) * 0.5;
         const double y = 6.0 + metrics.height() * 0.5 + 6.0;
@@ -217,9 +245,10 @@ void TestRulerBarHorizontal::drawing_titleIsCentred()
     const RecordingPaintDevice::Entry title = drawn(ruler, RecordingPaintDevice::Text).last();
     QCOMPARE(title.text, QString("Pixel Number"));
     QCOMPARE(title.font.pixelSize(), 14);
+    QVERIFY(title.font.italic());
     QCOMPARE(title.pen.color(), QColor(Qt::white));
     QVERIFY(title.transform.isIdentity());
-    QFont font;
+    QFont font = largeItalicFont();
     font.setPixelSize(14);
     const QFontMetricsF metrics(font);
     const double x = (400.0 - metrics.horizontalAdvance("Pixel Number")) * 0.5;

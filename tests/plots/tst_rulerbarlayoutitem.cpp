@@ -1,5 +1,6 @@
 #include "plots/rulerbarlayoutitem.h"
 #include "support/recordingpaintdevice.h"
+#include "support/sceneitems.h"
 
 #include <QPainter>
 #include <QtTest>
@@ -63,6 +64,8 @@ private Q_SLOTS:
     void zoom_isAtLeastOne_data();
     void zoom_isAtLeastOne();
     void drawing_ticksLabelsTitle();
+    void shownChanges_repaint();
+    void changesThatWaitForARebuild_doNotRepaint();
 };
 
 void TestRulerBarLayoutItem::startsUncalibratedAndWithoutTicks()
@@ -139,8 +142,10 @@ void TestRulerBarLayoutItem::actualSize_onlyUpdatesTheCount()
 void TestRulerBarLayoutItem::actualRect_roundsAndRebuilds()
 {
     ProbeRuler ruler;
-    ruler.changedActualRect(QRectF(10.4, 20.6, 100.0, 50.0));
-    QCOMPARE(ruler.seenRect(), QRect(10, 21, 100, 50));
+    // from (10.4, 20.6) to (110.6, 70.9): each corner is rounded, which makes it 101 wide
+    ruler.changedActualRect(QRectF(10.4, 20.6, 100.2, 50.3));
+    QCOMPARE(ruler.seenRect(), QRect(QPoint(10, 21), QPoint(110, 70)));
+    QCOMPARE(ruler.seenRect().size(), QSize(101, 50));
     QCOMPARE(ruler.calls, (QStringList { "span", "steps", "ticks" }));
 }
 
@@ -231,8 +236,12 @@ void TestRulerBarLayoutItem::getValueRange_truncatesAndSaturates()
     QCOMPARE(end, 700);
     ruler.changedShowValueRange(1e12, std::numeric_limits<double>::infinity());
     ruler.getValueRange(&start, &end);
-    QCOMPARE(start, 1073741824);
-    QCOMPARE(end, 1073741824);
+    QCOMPARE(start, 2147483647);
+    QCOMPARE(end, 2147483647);
+    ruler.changedShowValueRange(1500000000.0, 2000000000.0); // both fit
+    ruler.getValueRange(&start, &end);
+    QCOMPARE(start, 1500000000);
+    QCOMPARE(end, 2000000000);
     ruler.changedShowValueRange(0.0, std::numeric_limits<double>::quiet_NaN());
     ruler.getValueRange(&start, &end);
     QCOMPARE(end, 0);
@@ -289,6 +298,22 @@ void TestRulerBarLayoutItem::drawing_ticksLabelsTitle()
     QCOMPARE(recorded.lines(), (QVector<QLineF> { QLineF(1, 2, 3, 4), QLineF(5, 6, 7, 8) }));
     QCOMPARE(recorded.entries().first().pen.color(), QColor(Qt::white));
     QCOMPARE(recorded.entries().first().pen.width(), 1);
+}
+
+void TestRulerBarLayoutItem::shownChanges_repaint()
+{
+    ProbeRuler ruler;
+    QVERIFY(repaints(ruler, [&] { ruler.changedActualRect(QRectF(0.0, 0.0, 100.0, 50.0)); }));
+    QVERIFY(repaints(ruler, [&] { ruler.changedTitleName("nm"); }));
+    QVERIFY(repaints(ruler, [&] { ruler.changedShowValueRange(500.0, 900.0); }));
+    QVERIFY(repaints(ruler, [&] { ruler.setZoom(1.2); }));
+}
+
+void TestRulerBarLayoutItem::changesThatWaitForARebuild_doNotRepaint()
+{
+    ProbeRuler ruler;
+    QVERIFY(!repaints(ruler, [&] { ruler.changedActualSize(QSize(1024, 256)); }));
+    QVERIFY(!repaints(ruler, [&] { ruler.setLabelPrecision(2); }));
 }
 
 QTEST_MAIN(TestRulerBarLayoutItem)

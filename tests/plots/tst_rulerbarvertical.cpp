@@ -1,5 +1,6 @@
 #include "plots/rulerbarvertical.h"
 #include "support/recordingpaintdevice.h"
+#include "support/sceneitems.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -9,11 +10,13 @@
 
 namespace {
 
-void place(RulerBarLayoutItem& ruler, double width, double height)
+/// Opens the title's drawing, so that what it leaves on the painter can be seen.
+class OpenRuler : public RulerBarVertical
 {
-    ruler.setSize(width, height);
-    ruler.setGeometry(QRectF(0.0, 0.0, width, height));
-}
+public:
+    using RulerBarVertical::drawTitle;
+    using RulerBarVertical::RulerBarVertical;
+};
 
 } // namespace
 
@@ -25,14 +28,17 @@ private Q_SLOTS:
     void wholeImage_growsUpward();
     void scrolled_countsFromTheBottomOfTheImage();
     void valueAxis_withHeadroom();
+    void tallerThanTheLayoutAllows_fillsTheItem();
     void crossAxis_measuresTheColumnsFromTheImageHeight();
     void crossAxis_calibratesOverTheWidth();
     void noHeight_hasNoTicks();
     void badRectangles_data();
     void badRectangles();
     void hugeRectanglesAndImages();
+    void hugeRectangle_isMeasuredUpToTheBound();
     void drawing_labelsStandLeftOfTheirTicks();
     void drawing_titleReadsUpward();
+    void drawing_titleTurnsThePainterBack();
     void drawing_emptyTitleDrawsNothing();
     void metaObject_addsNothing();
 };
@@ -68,6 +74,16 @@ void TestRulerBarVertical::valueAxis_withHeadroom()
     ruler.setZoom(2.0); // half the height more below: tick 10 comes first
     QCOMPARE(ruler.labels(), (QStringList { "153", "204", "255", "306", "357" }));
     QCOMPARE(ruler.labelledTicks().first(), QLineF(90, 361, 84, 361));
+}
+
+void TestRulerBarVertical::tallerThanTheLayoutAllows_fillsTheItem()
+{
+    RulerBarVertical ruler(QString(), nullptr);
+    place(ruler, 70.0, 1200.0);
+    QCOMPARE(ruler.geometry().height(), 1000.0); // the layout's maximum
+    QCOMPARE(ruler.ticks().size(), 21); // every 20 units = 60 pixels
+    QCOMPARE(ruler.ticks().first(), QLineF(70, 1201, 64, 1201));
+    QCOMPARE(ruler.ticks().last(), QLineF(70, 1, 64, 1));
 }
 
 void TestRulerBarVertical::crossAxis_measuresTheColumnsFromTheImageHeight()
@@ -155,23 +171,36 @@ void TestRulerBarVertical::hugeRectanglesAndImages()
     QCOMPARE(ruler.ticks().size(), 21);
 }
 
+void TestRulerBarVertical::hugeRectangle_isMeasuredUpToTheBound()
+{
+    RulerBarVertical ruler(QString(), nullptr);
+    place(ruler, 70.0, 400.0);
+    ruler.changedActualRect(QRectF(0.0, 0.0, 400.0, 1e300));
+    // 2^30 rows, all but 400 below the image: a tick every 60,000,000 = 22.35 pixels, the first
+    // number -17 at y = 380.98, the last number 0 at y = 1
+    QCOMPARE(ruler.ticks().size(), 18);
+    QCOMPARE(ruler.labels(), (QStringList { "-900000000", "-600000000", "-300000000", "0" }));
+}
+
 void TestRulerBarVertical::drawing_labelsStandLeftOfTheirTicks()
 {
     RulerBarVertical ruler(QString(), nullptr);
     place(ruler, 70.0, 400.0);
     RecordingPaintDevice recorded;
     QPainter painter(&recorded);
+    painter.setFont(largeItalicFont()); // the size is replaced by the ruler's own
     ruler.paint(&painter, nullptr, nullptr);
     QCOMPARE(recorded.lines(), ruler.ticks());
     const QVector<RecordingPaintDevice::Entry> texts = recorded.of(RecordingPaintDevice::Text);
     QCOMPARE(texts.size(), 5);
-    QFont font;
+    QFont font = largeItalicFont();
     font.setPixelSize(13);
     const QFontMetricsF metrics(font);
     const QStringList labels { "80", "160", "240", "320", "400" };
     for (int i = 0; i < 5; ++i) {
         QCOMPARE(texts.at(i).text, labels.at(i));
         QCOMPARE(texts.at(i).font.pixelSize(), 13);
+        QVERIFY(texts.at(i).font.italic());
         QCOMPARE(texts.at(i).pen.color(), QColor(Qt::white));
         const double x = 64.0 - metrics.horizontalAdvance(labels.at(i)) - 4.0;
         const double y = 321.0 - 80.0 * i + metrics.height() * 0.5 - 1.0;
@@ -185,12 +214,14 @@ void TestRulerBarVertical::drawing_titleReadsUpward()
     ruler.setSize(70.0, 400.0);
     RecordingPaintDevice recorded;
     QPainter painter(&recorded);
+    painter.setFont(largeItalicFont());
     ruler.paint(&painter, nullptr, nullptr);
     QCOMPARE(recorded.entries().size(), 1); // no ticks before the first geometry
     const RecordingPaintDevice::Entry title = recorded.entries().first();
     QCOMPARE(title.text, QString("Gray"));
     QCOMPARE(title.font.pixelSize(), 14);
-    QFont font;
+    QVERIFY(title.font.italic());
+    QFont font = largeItalicFont();
     font.setPixelSize(14);
     const QFontMetricsF metrics(font);
     const double x = -(400.0 + metrics.horizontalAdvance("Gray")) * 0.5;
@@ -198,6 +229,15 @@ void TestRulerBarVertical::drawing_titleReadsUpward()
     // right on the text is up on the ruler, down on the text is right
     QCOMPARE(title.transform.map(QPointF(10.0, 0.0)), QPointF(0.0, -10.0));
     QCOMPARE(title.transform.map(QPointF(0.0, 10.0)), QPointF(10.0, 0.0));
+}
+
+void TestRulerBarVertical::drawing_titleTurnsThePainterBack()
+{
+    OpenRuler ruler("Gray", nullptr);
+    RecordingPaintDevice recorded;
+    QPainter painter(&recorded);
+    ruler.drawTitle(&painter);
+    QCOMPARE(recorded.texts(), QStringList { "Gray" });
     QVERIFY(painter.transform().isIdentity());
 }
 

@@ -38,6 +38,9 @@ private Q_SLOTS:
     void horizontal_scrolled();
     void horizontal_majorExactlyOneStepInHasNoLabel();
     void horizontal_zoomAddsPixelsToUnits();
+    void horizontal_zoomedStartIsTruncated();
+    void horizontal_firstTickIsRoundedUpAfterTheDivision();
+    void horizontal_positionsAreAddedUp();
     void horizontal_negativeStartCountsAsZero();
     void vertical_wholeImage();
     void vertical_scrolled();
@@ -49,6 +52,7 @@ private Q_SLOTS:
     void tickLimit();
     void extremeNumbers_data();
     void extremeNumbers();
+    void allUnitsOfAnIntVisible();
     void labels_plainUnits();
     void labels_calibrated();
     void labels_widenedBelowZeroArePlain();
@@ -100,6 +104,10 @@ void TestRulerScale::steps_data()
     QTest::newRow("1000 of 2050") << 1000 << 2050 << 200 << 11 << 40 << 5;
     QTest::newRow("6") << 6 << 400 << 2 << 200 << 1 << 2;
     QTest::newRow("5: every tick major") << 5 << 400 << 1 << 400 << 1 << 1;
+    // 70 / 5 = 14 -> 20; 70 / 20 = 3.5, rounded up
+    QTest::newRow("350") << 350 << 350 << 70 << 5 << 20 << 4;
+    // 9 / 5 = 1.8, rounded up to 2; 9 / 2 = 4.5, rounded up
+    QTest::newRow("45") << 45 << 45 << 9 << 5 << 2 << 5;
     QTest::newRow("1") << 1 << 1 << 1 << 1 << 1 << 1;
     // 1280 / 5 = 256 -> 300; 300 / 5 = 60 -> 60
     QTest::newRow("1280") << 1280 << 1280 << 300 << 5 << 60 << 5;
@@ -194,6 +202,39 @@ void TestRulerScale::horizontal_zoomAddsPixelsToUnits()
     QCOMPARE(ticks.all.at(2), QLineF(20, 0, 20, 6));
     QCOMPARE(ticks.labelledNumbers, (QVector<int> { 12, 16, 20, 24, 28 }));
     QCOMPARE(ticks.labelled.first(), QLineF(20, 0, 20, 6));
+}
+
+void TestRulerScale::horizontal_zoomedStartIsTruncated()
+{
+    // Zoom 1.5 adds a third of the width: start = trunc(100 + 66.67) = 166, offset 83 pixels. The
+    // first tick is number 9, 90 - 83 = 7 pixels in.
+    const RulerTicks ticks
+        = horizontalTicks(rulerSteps(400, 1000, 200.0), span(100, 400, 1.5), 200.0);
+    QCOMPARE(ticks.all.size(), 20); // x = 7, 17 .. 197
+    QCOMPARE(ticks.all.first(), QLineF(7, 0, 7, 3));
+    QCOMPARE(ticks.labelledNumbers, (QVector<int> { 12, 16, 20, 24, 28 }));
+    QCOMPARE(ticks.labelled.first(), QLineF(37, 0, 37, 6));
+}
+
+void TestRulerScale::horizontal_firstTickIsRoundedUpAfterTheDivision()
+{
+    // 300 units on 400 pixels, ticks every 20 units = 26.67 pixels. Unit 60 is 80 pixels and the
+    // third tick, but as doubles the division gives a little more than 3, so that the fourth is
+    // the first, 26.67 pixels in. The 14th stands at 373.33, the next would at 400.
+    const RulerTicks ticks = horizontalTicks(rulerSteps(300, 300, 400.0), span(60, 300), 400.0);
+    QCOMPARE(ticks.all.size(), 14);
+    QVERIFY(qAbs(ticks.all.first().x1() - 80.0 / 3.0) < 1e-9);
+    QCOMPARE(ticks.labelledNumbers, (QVector<int> { 6, 9, 12, 15 }));
+}
+
+void TestRulerScale::horizontal_positionsAreAddedUp()
+{
+    // 84 units on 400 pixels, a tick every 4: the 21st step ends at the right edge. Added up from
+    // rounded steps it stays a little before the edge and is drawn; 21 times the step would not be.
+    const RulerTicks ticks = horizontalTicks(rulerSteps(84, 84, 400.0), span(0, 84), 400.0);
+    QCOMPARE(ticks.all.size(), 22);
+    QVERIFY(ticks.all.last().x1() < 400.0);
+    QVERIFY(ticks.all.last().x1() > 400.0 - 1e-9);
 }
 
 void TestRulerScale::horizontal_negativeStartCountsAsZero()
@@ -341,6 +382,19 @@ void TestRulerScale::extremeNumbers()
     // about 25 ticks fill a ruler whose steps were made for its length
     QVERIFY(horizontalTicks(steps, shown, length).all.size() <= 50);
     QVERIFY(verticalTicks(steps, shown, imageHeight, QSizeF(70, length)).all.size() <= 50);
+}
+
+void TestRulerScale::allUnitsOfAnIntVisible()
+{
+    // (2^31 - 1) / 5 = 429496729.4 -> 500000000; / 5 = 100000000 units = 18.63 of 400 pixels
+    const int largest = std::numeric_limits<int>::max();
+    const RulerSteps steps = rulerSteps(largest, largest, 400.0);
+    const RulerTicks across = horizontalTicks(steps, span(0, largest), 400.0);
+    QCOMPARE(across.all.size(), 22); // x = 0 .. 391.2
+    QCOMPARE(across.labelledNumbers, (QVector<int> { 5, 10, 15, 20 }));
+    const RulerTicks up = verticalTicks(steps, span(0, largest), largest, QSizeF(70, 400));
+    QCOMPARE(up.all.size(), 22); // y = 401 .. 9.8
+    QCOMPARE(up.labelledNumbers, (QVector<int> { 5, 10, 15, 20 }));
 }
 
 void TestRulerScale::labels_plainUnits()

@@ -15,6 +15,8 @@ private Q_SLOTS:
     void notANumber_isUncalibrated();
     void valueAt_interpolatesFromTheStart();
     void valueAt_survivesACountOfZero();
+    void wholeValue_truncatesAndSaturates_data();
+    void wholeValue_truncatesAndSaturates();
 };
 
 void TestValueRange::startsUncalibrated()
@@ -76,6 +78,29 @@ void TestValueRange::valueAt_survivesACountOfZero()
     const ValueRange range { 500.0, 900.0 };
     QVERIFY(qIsInf(range.valueAt(80.0, 0)));
     QVERIFY(qIsNaN(range.valueAt(0.0, 0)));
+}
+
+void TestValueRange::wholeValue_truncatesAndSaturates_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::addColumn<int>("whole");
+    const double infinity = std::numeric_limits<double>::infinity();
+    QTest::newRow("truncated") << 700.9 << 700;
+    QTest::newRow("toward zero") << -2.9 << -2;
+    QTest::newRow("beyond 2^30") << 2000000000.0 << 2000000000;
+    QTest::newRow("far below zero") << -2000000000.0 << -2000000000;
+    QTest::newRow("largest int") << 2147483647.9 << 2147483647;
+    QTest::newRow("32-bit samples") << 4294967295.0 << 2147483647;
+    QTest::newRow("infinite") << infinity << 2147483647;
+    QTest::newRow("minus infinite") << -infinity << std::numeric_limits<int>::min();
+    QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << 0;
+}
+
+void TestValueRange::wholeValue_truncatesAndSaturates()
+{
+    QFETCH(double, value);
+    QFETCH(int, whole);
+    QCOMPARE(wholeValue(value), whole);
 }
 
 QTEST_GUILESS_MAIN(TestValueRange)
