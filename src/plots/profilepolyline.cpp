@@ -19,6 +19,8 @@ QVector<QLineF> joinedSamples(
     QVector<QLineF> lines;
     const double start = border;
     const double last = integralLength - start;
+    // The walk is shorter than the strip, but longer when the border is negative: neither the strip
+    // nor the walk may pass the limit.
     if (std::max(double(integralLength), last - start) > maxUnits) {
         return lines;
     }

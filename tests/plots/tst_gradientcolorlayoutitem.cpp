@@ -1,5 +1,6 @@
 #include "plots/gradientcolorlayoutitem.h"
 #include "support/recordingpaintdevice.h"
+#include "support/sceneitems.h"
 
 #include <QPainter>
 #include <QPointer>
@@ -41,6 +42,7 @@ private Q_SLOTS:
     void sizeChange_buildsTheCells();
     void changedPalette_storesAndAnnounces();
     void changedPalette_announcesAnUnchangedOneAgain();
+    void changedPalette_repaints();
     void changedPalette_survivesDeletionByAReceiver();
     void changedPalette_lastOfNestedCallsStays();
     void drawing_32Cells();
@@ -135,6 +137,13 @@ void TestGradientColorLayoutItem::changedPalette_announcesAnUnchangedOneAgain()
     bar.changedPalette(bar.colors());
     QCOMPARE(spy.count(), 2);
     QCOMPARE(spy.at(1).first().value<QVector<QColor>>(), bar.colors());
+}
+
+void TestGradientColorLayoutItem::changedPalette_repaints()
+{
+    GradientColorLayoutItem bar(nullptr);
+    QVERIFY(repaints(bar, [&] { bar.changedPalette(reds(256)); }));
+    QVERIFY(repaints(bar, [&] { bar.changedPalette(bar.colors()); })); // also the same one
 }
 
 void TestGradientColorLayoutItem::changedPalette_survivesDeletionByAReceiver()

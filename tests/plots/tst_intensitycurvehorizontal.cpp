@@ -1,8 +1,8 @@
 #include "plots/intensitycurvehorizontal.h"
 #include "support/recordingpaintdevice.h"
+#include "support/sceneitems.h"
 
 #include <QGraphicsScene>
-#include <QGraphicsSceneMouseEvent>
 #include <QPainter>
 #include <QtTest>
 
@@ -18,10 +18,11 @@ private Q_SLOTS:
     void updateCurve_buildsThePolyline();
     void sizeChange_reachesTheLayoutAndRebuilds();
     void layoutMove_rebuilds();
-    void withoutSamples_theLinesStay();
+    void withoutSamples_drawsNoCurve();
     void oneUnitStrip_readsInsideTheProfile();
     void noLength_endsAfterOneSegment();
     void anchor_isRounded();
+    void anchor_repaints();
     void anchor_survivesAnyPoint();
     void drawing_curveThenAnchor();
     void drag_holdsThePointerOnItsRow();
@@ -89,7 +90,7 @@ void TestIntensityCurveHorizontal::layoutMove_rebuilds()
     QCOMPARE(curve.pos(), QPointF(30.0, 40.0));
 }
 
-void TestIntensityCurveHorizontal::withoutSamples_theLinesStay()
+void TestIntensityCurveHorizontal::withoutSamples_drawsNoCurve()
 {
     IntensityCurveHorizontal curve(nullptr);
     uchar data[] = { 10 };
@@ -128,6 +129,12 @@ void TestIntensityCurveHorizontal::anchor_isRounded()
     QCOMPARE(curve.anchorPosition(), -3);
 }
 
+void TestIntensityCurveHorizontal::anchor_repaints()
+{
+    IntensityCurveHorizontal curve(nullptr);
+    QVERIFY(repaints(curve, [&] { curve.changedAnchorPosition(QPointF(20.0, 30.0)); }));
+}
+
 void TestIntensityCurveHorizontal::anchor_survivesAnyPoint()
 {
     IntensityCurveHorizontal curve(nullptr);
@@ -163,23 +170,16 @@ void TestIntensityCurveHorizontal::drag_holdsThePointerOnItsRow()
     IntensityCurveHorizontal curve(nullptr);
     scene.addItem(&curve);
     QSignalSpy spy(&curve, SIGNAL(scrollDistance(int)));
-    const auto send = [&scene](QEvent::Type type) {
-        QGraphicsSceneMouseEvent event(type);
-        event.setScenePos(QPointF(10.0, 10.0));
-        event.setButtons(Qt::LeftButton);
-        event.setButton(type == QEvent::GraphicsSceneMousePress ? Qt::LeftButton : Qt::NoButton);
-        QApplication::sendEvent(&scene, &event);
-    };
     QCursor::setPos(100, 50);
-    send(QEvent::GraphicsSceneMousePress);
+    sendMouse(scene, QEvent::GraphicsSceneMousePress, Qt::LeftButton);
     QCOMPARE(spy.count(), 0);
     QCursor::setPos(90, 57);
-    send(QEvent::GraphicsSceneMouseMove);
+    sendMouse(scene, QEvent::GraphicsSceneMouseMove, Qt::LeftButton);
     QCOMPARE(spy.count(), 1);
     QCOMPARE(spy.at(0).first().toInt(), 10);
     QCOMPARE(QCursor::pos(), QPoint(90, 50));
     QCursor::setPos(125, 44); // and the other way, counted from the step before
-    send(QEvent::GraphicsSceneMouseMove);
+    sendMouse(scene, QEvent::GraphicsSceneMouseMove, Qt::LeftButton);
     QCOMPARE(spy.count(), 2);
     QCOMPARE(spy.at(1).first().toInt(), -35);
     QCOMPARE(QCursor::pos(), QPoint(125, 50));

@@ -1,9 +1,9 @@
 #include "plots/intensitycurvelayoutitem.h"
 #include "support/recordingpaintdevice.h"
+#include "support/sceneitems.h"
 
 #include <QGraphicsScene>
 #include <QGraphicsSceneHoverEvent>
-#include <QGraphicsSceneMouseEvent>
 #include <QGraphicsView>
 #include <QPainter>
 #include <QtTest>
@@ -24,6 +24,7 @@ public:
     QStringList calls;
     QPointF pulledTo { 7.0, 8.0 }; ///< where constrainDrag() puts the pointer
     bool pulls = false;
+    QPoint pointerAtDrag; ///< where the screen's pointer stood when the drag was announced
 
     QVector<int> stored() const
     {
@@ -45,6 +46,7 @@ protected:
     void emitDragScroll(const QPointF& current) override
     {
         calls << QString("drag to %1,%2").arg(current.x()).arg(current.y());
+        pointerAtDrag = QCursor::pos();
         Q_EMIT scrollDistance(draggedBack(current).x());
     }
     void drawAnchor(QPainter* painter) override
@@ -81,17 +83,6 @@ protected:
     }
 };
 
-void sendMouse(QGraphicsScene& scene, QEvent::Type type, Qt::MouseButtons buttons)
-{
-    QGraphicsSceneMouseEvent event(type);
-    event.setScenePos(QPointF(10.0, 10.0));
-    event.setButtons(buttons);
-    if (type == QEvent::GraphicsSceneMousePress) {
-        event.setButton(buttons & Qt::LeftButton ? Qt::LeftButton : Qt::RightButton);
-    }
-    QApplication::sendEvent(&scene, &event);
-}
-
 void sendHover(QGraphicsScene& scene, QGraphicsItem* item, QEvent::Type type)
 {
     QGraphicsSceneHoverEvent event(type);
@@ -126,6 +117,9 @@ private Q_SLOTS:
     void updateCurve_emptyPartKeepsTheOldSamples();
     void updateCurve_rejects_data();
     void updateCurve_rejects();
+    void updateCurve_rejectsWholeProfiles_data();
+    void updateCurve_rejectsWholeProfiles();
+    void updateCurve_repaints();
     void reversed_storesBackToFront();
     void reversed_turnsTheOldSamplesAgainForAnEmptyPart();
     void resizeSamples_onlyForANewPositiveCount();
@@ -145,7 +139,6 @@ private Q_SLOTS:
 void TestIntensityCurveLayoutItem::startsEmpty()
 {
     ProbeCurve curve;
-    QVERIFY(curve.calls.isEmpty()); // the size was set before there was a subclass
     QCOMPARE(curve.size, QSizeF(400.0, 50.0));
     QCOMPARE(curve.borderWidth, 1);
     QCOMPARE(curve.borderColor, QColor(Qt::white));
@@ -278,10 +271,39 @@ void TestIntensityCurveLayoutItem::updateCurve_rejects()
     curve.updateCurve(hasData ? data : nullptr, size, offset, counts);
     QVERIFY(curve.calls.isEmpty());
     QCOMPARE(curve.stored(), (QVector<int> { 1, 2 }));
-    if (offset == 0 && counts != 5) {
-        curve.updateCurve(hasData ? data : nullptr, size);
-        QVERIFY(curve.calls.isEmpty());
-    }
+}
+
+void TestIntensityCurveLayoutItem::updateCurve_rejectsWholeProfiles_data()
+{
+    QTest::addColumn<bool>("hasData");
+    QTest::addColumn<int>("size");
+    QTest::newRow("no data") << false << 10;
+    QTest::newRow("size 0") << true << 0;
+    QTest::newRow("negative size") << true << -1;
+    QTest::newRow("smallest size") << true << std::numeric_limits<int>::min();
+}
+
+void TestIntensityCurveLayoutItem::updateCurve_rejectsWholeProfiles()
+{
+    QFETCH(bool, hasData);
+    QFETCH(int, size);
+    ProbeCurve curve;
+    uchar data[10] = { 1, 2, 3, 4, 5, 6, 7, 8, 9, 10 };
+    curve.updateCurve(data, 2);
+    curve.calls.clear();
+    curve.updateCurve(hasData ? data : nullptr, size);
+    QVERIFY(curve.calls.isEmpty());
+    QCOMPARE(curve.stored(), (QVector<int> { 1, 2 }));
+}
+
+void TestIntensityCurveLayoutItem::updateCurve_repaints()
+{
+    ProbeCurve curve;
+    uchar data[] = { 1, 2, 3 };
+    QVERIFY(repaints(curve, [&] { curve.updateCurve(data, 3); }));
+    QVERIFY(repaints(curve, [&] { curve.updateCurve(data, 3, 1, 2); }));
+    QVERIFY(repaints(curve, [&] { curve.updateCurve(data, 3, 3, 0); })); // the old profile
+    QVERIFY(!repaints(curve, [&] { curve.updateCurve(data, 3, 1, 3); })); // rejected
 }
 
 void TestIntensityCurveLayoutItem::reversed_storesBackToFront()
@@ -435,6 +457,7 @@ void TestIntensityCurveLayoutItem::drag_constrainsMovesThePointerAndAnnounces()
     sendMouse(scene, QEvent::GraphicsSceneMouseMove, Qt::LeftButton);
     QCOMPARE(curve.calls, (QStringList { "constrain from 100,50", "drag to 90.4,70.6" }));
     QCOMPARE(QCursor::pos(), QPoint(90, 71)); // rounded
+    QCOMPARE(curve.pointerAtDrag, QPoint(90, 71)); // moved before the drag is announced
     QCOMPARE(spy.count(), 1);
     QCOMPARE(spy.first().first().toInt(), 10);
 

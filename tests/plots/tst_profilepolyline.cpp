@@ -3,6 +3,7 @@
 #include <QtTest>
 
 #include <limits>
+#include <vector>
 
 namespace {
 
@@ -29,6 +30,8 @@ private Q_SLOTS:
     void vertical_levelZeroLiesLeftOfTheOrigin();
     void secondPoint_takesTheSampleOfPositionOne();
     void exactSizeScales_integralSizeBounds();
+    void vertical_exactSizeScales_integralSizeBounds();
+    void samplesPerUnit_areDividedFirst();
     void oneSample_isAFlatLine();
     void wideBorder_movesBothEnds();
     void shortStrips_data();
@@ -103,6 +106,33 @@ void TestProfilePolyline::exactSizeScales_integralSizeBounds()
     QVERIFY(lines.at(7).x2() == 9.0);
     QVERIFY(qAbs(lines.at(7).y2() - 0.6) < 1e-9);
     QVERIFY(lines.last().x2() == 10.0);
+}
+
+void TestProfilePolyline::vertical_exactSizeScales_integralSizeBounds()
+{
+    // 102.4 x 10.6: the last point stands at y = 10, while 255 levels take the exact 102.4 units.
+    const uchar samples[] = { 0, 255, 0, 0, 255 };
+    const QVector<QLineF> lines = verticalPolyline(samples, 5, QSizeF(102.4, 10.6), 1);
+    QCOMPARE(lines.size(), 9);
+    QVERIFY(lines.first().x1() == -1.0);
+    // y = 8 takes sample trunc(8 * 5 / 10.6 = 3.77) = 3, y = 9 sample trunc(4.25) = 4
+    QVERIFY(lines.at(6).p2() == QPointF(-1.0, 8.0));
+    QVERIFY(lines.at(7).y2() == 9.0);
+    QVERIFY(qAbs(lines.at(7).x2() - 101.4) < 1e-9); // 102.4 - 1
+    QVERIFY(lines.last().y2() == 10.0);
+}
+
+void TestProfilePolyline::samplesPerUnit_areDividedFirst()
+{
+    // Two samples over 98 units. At 49 the second would begin, but 2 / 98 is rounded down to a
+    // double, so that 49 times it stays below 1.
+    const uchar samples[] = { 0, 255 };
+    const QVector<QLineF> across = horizontalPolyline(samples, 2, QSizeF(98, 255), 1);
+    QCOMPARE(across.at(47).p2(), QPointF(49, 256));
+    QCOMPARE(across.at(48).p2(), QPointF(50, 1));
+    const QVector<QLineF> down = verticalPolyline(samples, 2, QSizeF(255, 98), 1);
+    QCOMPARE(down.at(47).p2(), QPointF(-1, 49));
+    QCOMPARE(down.at(48).p2(), QPointF(254, 50));
 }
 
 void TestProfilePolyline::oneSample_isAFlatLine()
