@@ -25,7 +25,7 @@ private Q_SLOTS:
 void TestAllocationFailure::initTestCase()
 {
     if (!limitLargeAllocations()) {
-        QSKIP("memory cannot be limited here");
+        QTest::qSkip("memory cannot be limited here", __FILE__, __LINE__);
     }
 }
 

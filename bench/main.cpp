@@ -1,0 +1,26 @@
+#include "ratioreporter.h"
+
+#include <QLoggingCategory>
+
+#include <cstring>
+#include <vector>
+
+/// Runs the benchmarks, each seven times in mixed order unless told otherwise, so that a busy
+/// moment of the machine does not fall on one side of a pair alone.
+int main(int argc, char** argv)
+{
+    QLoggingCategory::setFilterRules("*.debug=false");
+    char repetitions[] = "--benchmark_repetitions=7";
+    char interleaving[] = "--benchmark_enable_random_interleaving=true";
+    std::vector<char*> arguments { argv[0], repetitions, interleaving };
+    arguments.insert(arguments.end(), argv + 1, argv + argc); // later ones count
+    int count = int(arguments.size());
+    benchmark::Initialize(&count, arguments.data());
+    if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) {
+        return 1;
+    }
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    reporter.printRatios();
+    return 0;
+}
