@@ -1,9 +1,11 @@
 #include "analysis/histogramdata.h"
 
 #include "analysis/roirows.h"
+#include "analysis/valuecounts.h"
 #include "image/sampledispatch.h"
 
 #include <algorithm>
+#include <cstring>
 #include <utility>
 
 namespace {
@@ -77,14 +79,52 @@ void HistogramData::calcHistogram()
         using Sample = std::decay_t<decltype(*samples)>;
         const auto count
             = int(std::min<qint64>(image->pixelCount, allocatedSamples<Sample>(*image)));
-        createHistogramBuffer(samples, count);
-        fillHistogram(samples, count);
+        rebuildCounts(samples, count);
     });
     if (fitsIntoBins(min, max) && size != 0) {
         displayMap = elements<uchar>(m_mapMemory, size);
         m_mapMemory.markWritten(m_mapMemory.size());
     }
     buildDisplayMap(0, 255);
+}
+
+/// Many small samples are counted first, and the range is read off the counts.
+template <class Sample>
+void HistogramData::rebuildCounts(const Sample* samples, int count)
+{
+    const ValueCounts<Sample> counts(samples, count);
+    if (counts.isComplete()) {
+        adoptRange(counts.range());
+        takeCounts(counts.from(min));
+    } else {
+        createHistogramBuffer(samples, count);
+        fillHistogram(samples, count);
+    }
+}
+
+/// Nothing can change the samples between the two passes: the counts need no test.
+void HistogramData::rebuildCounts(const uint* samples, int count)
+{
+    const SampleRange range = sampleRange(samples, count);
+    adoptRange(range);
+    if (histogram) {
+        clearHistogram();
+        addCountsFromMin(samples, count, range.min, histogram);
+    }
+}
+
+void HistogramData::clearHistogram()
+{
+    m_histogramMemory.zeroFrom(0);
+    m_histogramMemory.markWritten(m_histogramMemory.size());
+}
+
+void HistogramData::takeCounts(const uint* counts)
+{
+    if (histogram) {
+        std::memcpy(histogram, counts, m_histogramMemory.size());
+        m_histogramMemory.markWritten(m_histogramMemory.size());
+    }
 }
 
 template <class Sample>
@@ -119,8 +159,7 @@ void HistogramData::fillHistogram(const Sample* samples, int count)
     if (!samples || !histogram) {
         return;
     }
-    m_histogramMemory.zeroFrom(0);
-    m_histogramMemory.markWritten(m_histogramMemory.size());
+    clearHistogram();
     addSampleCounts(samples, count, min, histogram, uint(m_histogramMemory.size() / sizeof(uint)));
 }
 

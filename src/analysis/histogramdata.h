@@ -92,7 +92,12 @@ public:
 private:
     bool hasImage() const;
     bool isTooWideForBins() const;
+    template <class Sample>
+    void rebuildCounts(const Sample* samples, int count);
+    void rebuildCounts(const uint* samples, int count);
     void adoptRange(const SampleRange& range);
+    void clearHistogram();
+    void takeCounts(const uint* counts);
 
     PixelMemory m_histogramMemory;
     PixelMemory m_roiMemory;

@@ -19,3 +19,7 @@ SampleRange sampleRange(const Sample* samples, qint64 count);
 /// Adds 1 to bins[v - min] for each of `count` samples v. A value without a bin is not counted.
 template <class Sample>
 void addSampleCounts(const Sample* samples, qint64 count, uint min, uint* bins, uint binCount);
+
+/// Same without the test, for samples of which sampleRange() has just given `min` and whose largest
+/// value has a bin.
+void addCountsFromMin(const uint* samples, qint64 count, uint min, uint* bins);

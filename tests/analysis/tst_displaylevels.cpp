@@ -1,9 +1,12 @@
 #include "analysis/displaylevels.h"
+#include "plainloops.h"
 
 #include <QtTest>
 
+#include <array>
 #include <cmath>
 #include <limits>
+#include <vector>
 
 class TestDisplayLevels : public QObject
 {
@@ -15,6 +18,9 @@ private Q_SLOTS:
     void level_truncatesBelow255_data();
     void level_truncatesBelow255();
     void buildDisplayLevels_writesExactlyTheBins();
+    void buildDisplayLevels_everyLevelIsThatOfThePlainLoop_data();
+    void buildDisplayLevels_everyLevelIsThatOfThePlainLoop();
+    void buildDisplayLevels_fallingScale();
     void levels_byMapAndByFormulaAgree();
     void levels_outsideTheBinsAreZero();
 };
@@ -70,6 +76,39 @@ void TestDisplayLevels::buildDisplayLevels_writesExactlyTheBins()
     QCOMPARE(levels, (std::array<uchar, 4> { 0, 100, 200, 9 }));
     buildDisplayLevels(100.0, levels.data(), 0);
     QCOMPARE(levels, (std::array<uchar, 4> { 0, 100, 200, 9 }));
+}
+
+void TestDisplayLevels::buildDisplayLevels_everyLevelIsThatOfThePlainLoop_data()
+{
+    QTest::addColumn<uint>("min");
+    QTest::addColumn<uint>("max");
+    const QVector<uint> sizes { 1, 2, 255, 256, 257, 4096, 4097, 5000, 65535, 65536, 1048576,
+        3333333, 67108864 };
+    for (const uint size : sizes) {
+        QTest::addRow("%u bins", size) << 1000u << 999u + size;
+    }
+    QTest::newRow("up to the largest value") << 4294000000u << 4294967295u;
+}
+
+void TestDisplayLevels::buildDisplayLevels_everyLevelIsThatOfThePlainLoop()
+{
+    QFETCH(uint, min);
+    QFETCH(uint, max);
+    std::vector<uchar> expected(max - min + 1);
+    plain::displayMap(min, max, expected.data(), uint(expected.size()));
+    std::vector<uchar> levels(expected.size());
+    buildDisplayLevels(displayScale(0, 255, min, max), levels.data(), uint(levels.size()));
+    QVERIFY(levels == expected);
+}
+
+void TestDisplayLevels::buildDisplayLevels_fallingScale()
+{
+    std::vector<uchar> levels(5001);
+    buildDisplayLevels(-0.0625, levels.data(), 5001);
+    QCOMPARE(int(levels[15]), 0); // -0.94
+    QCOMPARE(int(levels[16]), 255); // -1, as a byte
+    QCOMPARE(int(levels[4080]), 1); // -255
+    QCOMPARE(int(levels[4096]), 0); // -256
 }
 
 void TestDisplayLevels::levels_byMapAndByFormulaAgree()

@@ -1,8 +1,62 @@
 #include "analysis/samplecounts.h"
+#include "plainloops.h"
+#include "support/samplepatterns.h"
+#include "support/simdtargets.h"
 
 #include <QtTest>
 
 #include <vector>
+
+namespace {
+
+template <class Sample>
+void compareRanges(size_t count)
+{
+    for (const auto& pattern : samplePatterns<Sample>(count)) {
+        const plain::Range expected = plain::range(pattern.samples.data(), qint64(count));
+        forEachSimdTarget([&](const char* target) {
+            const SampleRange range = sampleRange(pattern.samples.data(), qint64(count));
+            QVERIFY2(range.min == expected.min && range.max == expected.max,
+                qPrintable(QString("%1, %2 samples, %3")
+                               .arg(target)
+                               .arg(count)
+                               .arg(pattern.name.c_str())));
+        });
+    }
+}
+
+template <class Sample>
+void compareCounts(const std::vector<Sample>& samples, bool withoutTest)
+{
+    const auto count = qint64(samples.size());
+    const plain::Range range = plain::range(samples.data(), count);
+    if (range.max - range.min > 100000) {
+        return;
+    }
+    std::vector<uint> expected(range.max - range.min + 1);
+    plain::histogram(samples.data(), count, range.min, expected.data(), uint(expected.size()));
+    std::vector<uint> bins(expected.size(), 0);
+    if constexpr (sizeof(Sample) == sizeof(uint)) {
+        if (withoutTest) {
+            addCountsFromMin(samples.data(), count, range.min, bins.data());
+            QCOMPARE(bins, expected);
+            return;
+        }
+    }
+    addSampleCounts(samples.data(), count, range.min, bins.data(), uint(bins.size()));
+    QCOMPARE(bins, expected);
+}
+
+template <class Sample>
+void compareCounts(size_t count)
+{
+    for (const auto& pattern : samplePatterns<Sample>(count)) {
+        compareCounts(pattern.samples, false);
+        compareCounts(pattern.samples, true);
+    }
+}
+
+} // namespace
 
 class TestSampleCounts : public QObject
 {
@@ -13,6 +67,8 @@ private Q_SLOTS:
     void range_withoutSamplesIsTurnedRound();
     void counts_addUp();
     void counts_leaveOutValuesWithoutABin();
+    void counts_fromMinAddUp();
+    void everyResultIsThatOfThePlainLoop();
 };
 
 void TestSampleCounts::range_ofEachDepth()
@@ -60,6 +116,33 @@ void TestSampleCounts::counts_leaveOutValuesWithoutABin()
     QCOMPARE(bins, (std::vector<uint> { 2, 2 }));
     addSampleCounts(ints.data(), 6, 100, bins.data(), 0);
     QCOMPARE(bins, (std::vector<uint> { 2, 2 }));
+}
+
+void TestSampleCounts::counts_fromMinAddUp()
+{
+    const std::vector<uint> samples { 4294967295u, 4294967293u, 4294967295u, 4294967294u,
+        4294967295u };
+    std::vector<uint> bins { 5, 6, 7 };
+    addCountsFromMin(samples.data(), 5, 4294967293u, bins.data());
+    QCOMPARE(bins, (std::vector<uint> { 6, 7, 10 }));
+    addCountsFromMin(samples.data(), 0, 4294967293u, bins.data());
+    QCOMPARE(bins, (std::vector<uint> { 6, 7, 10 }));
+}
+
+void TestSampleCounts::everyResultIsThatOfThePlainLoop()
+{
+    for (size_t count = 1; count <= 140; ++count) {
+        compareRanges<uchar>(count);
+        compareRanges<ushort>(count);
+        compareRanges<uint>(count);
+        compareCounts<uchar>(count);
+        compareCounts<ushort>(count);
+        compareCounts<uint>(count);
+    }
+    compareRanges<uchar>(10007);
+    compareRanges<ushort>(10007);
+    compareRanges<uint>(10007);
+    compareCounts<uint>(10007);
 }
 
 QTEST_GUILESS_MAIN(TestSampleCounts)

@@ -1,8 +1,34 @@
 #include "image/grayconversion.h"
+#include "plainloops.h"
+#include "support/samplepatterns.h"
+#include "support/simdtargets.h"
 
 #include <QtTest>
 
 #include <vector>
+
+namespace {
+
+template <class Sample>
+void compareWithThePlainLoop(size_t pixels)
+{
+    for (const auto& pattern : samplePatterns<Sample>(3 * pixels)) {
+        std::vector<Sample> expected = pattern.samples;
+        plain::grayInPlace(expected.data(), qint64(pixels));
+        forEachSimdTarget([&](const char* target) {
+            std::vector<Sample> samples = pattern.samples;
+            grayInPlace(samples.data(), qint64(pixels));
+            QVERIFY2(samples == expected,
+                qPrintable(QString("%1, %2 bytes, %3 pixels, %4")
+                               .arg(target)
+                               .arg(sizeof(Sample))
+                               .arg(pixels)
+                               .arg(pattern.name.c_str())));
+        });
+    }
+}
+
+} // namespace
 
 class TestGrayConversion : public QObject
 {
@@ -13,6 +39,7 @@ private Q_SLOTS:
     void sixteenBitSamplesDoNotOverflow();
     void thirtyTwoBitProductsWrap();
     void noPixelsTouchNothing();
+    void everyBitIsThatOfThePlainLoop();
 };
 
 void TestGrayConversion::weightsOfTheThreeChannels()
@@ -51,6 +78,18 @@ void TestGrayConversion::noPixelsTouchNothing()
     grayInPlace(samples.data(), -1);
     QCOMPARE(samples, (std::vector<uchar> { 9, 9, 9 }));
     grayInPlace(static_cast<uchar*>(nullptr), 0);
+}
+
+void TestGrayConversion::everyBitIsThatOfThePlainLoop()
+{
+    for (size_t pixels = 0; pixels <= 70; ++pixels) {
+        compareWithThePlainLoop<uchar>(pixels);
+        compareWithThePlainLoop<ushort>(pixels);
+        compareWithThePlainLoop<uint>(pixels);
+    }
+    compareWithThePlainLoop<uchar>(4099);
+    compareWithThePlainLoop<ushort>(4099);
+    compareWithThePlainLoop<uint>(4099);
 }
 
 QTEST_GUILESS_MAIN(TestGrayConversion)

@@ -1,0 +1,110 @@
+#include "analysis/valuecounts.h"
+
+#include "analysis/prefetch.h"
+
+#include <cstring>
+
+namespace {
+
+/// Neighbours are counted in tables of their own, or the processor would wait for its last store
+/// wherever they are alike.
+constexpr int tableCount = 4;
+
+constexpr int wordValues = 65536;
+
+/// Entries from one table to the next. Not a multiple of 4096 bytes: stores to addresses whose last
+/// twelve bits agree are taken for one another.
+constexpr int tableStride = wordValues + 256;
+
+/// With fewer samples than this the tables are not worth clearing.
+constexpr qint64 fewestSamples = wordValues * 4;
+
+/// Counts four words of 16 bits.
+void countFour(const uchar* bytes, uint* tables)
+{
+    quint64 four;
+    std::memcpy(&four, bytes, sizeof(four));
+    ++tables[four & 0xffff];
+    ++tables[tableStride + (four >> 16 & 0xffff)];
+    ++tables[2 * tableStride + (four >> 32 & 0xffff)];
+    ++tables[3 * tableStride + (four >> 48)];
+}
+
+/// Counts the words of 16 bits that `bytes` consists of, a cache line at a time.
+void countWords(const uchar* bytes, qint64 wordCount, uint* tables)
+{
+    qint64 word = 0;
+    for (; word + 32 <= wordCount; word += 32) {
+        const uchar* line = bytes + 2 * word;
+        prefetchAhead(line, 2048);
+        countFour(line, tables);
+        countFour(line + 8, tables);
+        countFour(line + 16, tables);
+        countFour(line + 24, tables);
+        countFour(line + 32, tables);
+        countFour(line + 40, tables);
+        countFour(line + 48, tables);
+        countFour(line + 56, tables);
+    }
+    for (; word < wordCount; ++word) {
+        quint16 one;
+        std::memcpy(&one, bytes + 2 * word, sizeof(one));
+        ++tables[one];
+    }
+}
+
+/// Adds the other tables to the first one.
+void addTables(uint* tables)
+{
+    for (int value = 0; value < wordValues; ++value) {
+        tables[value] += tables[value + tableStride] + tables[value + 2 * tableStride]
+            + tables[value + 3 * tableStride];
+    }
+}
+
+/// Turns counts of byte pairs into counts of bytes; which byte of a pair came first is all one.
+void splitPairs(uint* counts)
+{
+    uint bytes[256] = {};
+    for (int pair = 0; pair < wordValues; ++pair) {
+        bytes[pair & 0xff] += counts[pair];
+        bytes[pair >> 8] += counts[pair];
+    }
+    std::memcpy(counts, bytes, sizeof(bytes));
+}
+
+} // namespace
+
+template <class Sample>
+ValueCounts<Sample>::ValueCounts(const Sample* samples, qint64 count)
+{
+    if (count < fewestSamples || !m_tables.acquire(tableCount * tableStride * sizeof(uint))) {
+        return;
+    }
+    const auto* bytes = reinterpret_cast<const uchar*>(samples);
+    countWords(bytes, count * qint64(sizeof(Sample)) / 2, counts());
+    addTables(counts());
+    if constexpr (sizeof(Sample) == 1) {
+        splitPairs(counts());
+        if (count % 2 != 0) {
+            ++counts()[samples[count - 1]];
+        }
+    }
+}
+
+template <class Sample>
+SampleRange ValueCounts<Sample>::range() const
+{
+    uint min = 0;
+    while (counts()[min] == 0) {
+        ++min;
+    }
+    uint max = (1u << 8 * sizeof(Sample)) - 1;
+    while (counts()[max] == 0) {
+        --max;
+    }
+    return { min, max };
+}
+
+template class ValueCounts<uchar>;
+template class ValueCounts<ushort>;
