@@ -4,13 +4,6 @@
 
 #include "image/grayconversion.h"
 #include "image/imageloadvk.h"
-#include "image/rawheader.h"
-
-#include <QFile>
-#include <QTemporaryDir>
-#include <QtEndian>
-
-#include <array>
 
 namespace {
 
@@ -33,29 +26,6 @@ void addGrayPair(const std::string& name, const Frame& frame, double limit)
         }
     };
     addPair("gray " + name, limit, plainLoop, fastLoop);
-}
-
-/// A raw file of the frame in a folder that goes with the program.
-QString rawFilePath(const Frame& frame)
-{
-    static QTemporaryDir folder;
-    const QString path = folder.filePath("frame.raw");
-    if (QFile::exists(path)) {
-        return path;
-    }
-    const ImageData& image = frameRecord<ushort>(frame);
-    std::array<char, rawHeaderBytes> header { "VORLAK" };
-    qToLittleEndian(quint16(image.width), header.data() + 12);
-    qToLittleEndian(quint16(image.height), header.data() + 14);
-    header[22] = 1;
-    header[23] = 2;
-    qToLittleEndian(quint32(image.dataSize), header.data() + 32);
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write(header.data(), rawHeaderBytes);
-        file.write(reinterpret_cast<const char*>(image.data), image.dataSize);
-    }
-    return path;
 }
 
 void measurePlainLoad(benchmark::State& state, const Frame& frame)

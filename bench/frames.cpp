@@ -1,6 +1,13 @@
 #include "frames.h"
 
+#include "image/rawheader.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtEndian>
+
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstring>
 #include <map>
@@ -94,4 +101,26 @@ void warmMemory(size_t byteCount)
     if (memory.acquire(byteCount)) {
         std::memset(memory.data(), 1, byteCount);
     }
+}
+
+QString rawFilePath(const Frame& frame)
+{
+    static QTemporaryDir folder;
+    const QString path = folder.filePath("frame.raw");
+    if (QFile::exists(path)) {
+        return path;
+    }
+    const ImageData& image = frameRecord<ushort>(frame);
+    std::array<char, rawHeaderBytes> header { "VORLAK" };
+    qToLittleEndian(quint16(image.width), header.data() + 12);
+    qToLittleEndian(quint16(image.height), header.data() + 14);
+    header[22] = 1;
+    header[23] = 2;
+    qToLittleEndian(quint32(image.dataSize), header.data() + 32);
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write(header.data(), rawHeaderBytes);
+        file.write(reinterpret_cast<const char*>(image.data), image.dataSize);
+    }
+    return path;
 }

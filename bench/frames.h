@@ -2,6 +2,8 @@
 
 #include "image/imagedata.h"
 
+#include <QString>
+
 /// What the pixels of a measured image look like.
 enum class FrameKind {
     Camera, ///< dark offset with Gaussian noise, and spectral lines over the whole range
@@ -31,3 +33,7 @@ Sample* samplesOf(const ImageData& image)
 /// is free for a while to its host, and whoever gets it next pays for that; called before a loop
 /// that takes new memory, this keeps the host out of both sides of a pair.
 void warmMemory(size_t byteCount);
+
+/// The raw file of the one frame of 16 bits a sample that is measured from file on, in a folder
+/// that goes with the program; written at the first call.
+QString rawFilePath(const Frame& frame);

@@ -1,5 +1,6 @@
 #include "ratioreporter.h"
 
+#include <QApplication>
 #include <QLoggingCategory>
 
 #include <cstring>
@@ -9,6 +10,8 @@
 /// moment of the machine does not fall on one side of a pair alone.
 int main(int argc, char** argv)
 {
+    qputenv("QT_QPA_PLATFORM", "offscreen"); // windows are painted, none is shown
+    const QApplication application(argc, argv);
     QLoggingCategory::setFilterRules("*.debug=false");
     char repetitions[] = "--benchmark_repetitions=7";
     char interleaving[] = "--benchmark_enable_random_interleaving=true";
