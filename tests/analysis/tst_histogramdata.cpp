@@ -1,5 +1,7 @@
 #include "analysis/histogramdata.h"
+#include "plainloops.h"
 #include "support/sampleimages.h"
+#include "support/samplepatterns.h"
 
 #include <QRegularExpression>
 #include <QtTest>
@@ -40,6 +42,33 @@ QVector<uint> countsOf(const uint* counts, int count)
     return values;
 }
 
+/// Range, counts and levels of an image large enough for the loops that take many samples at once.
+template <class Sample>
+void compareWithThePlainLoops(int width, int height)
+{
+    for (const auto& pattern : samplePatterns<Sample>(size_t(width) * size_t(height))) {
+        const auto count = qint64(pattern.samples.size());
+        const plain::Range range = plain::range(pattern.samples.data(), count);
+        if (range.max - range.min >= largestBinCount) {
+            continue; // no bins to compare
+        }
+        const uint size = range.max - range.min + 1;
+        std::vector<uint> counts(size);
+        plain::histogram(pattern.samples.data(), count, range.min, counts.data(), size);
+        std::vector<uchar> levels(size);
+        plain::displayMap(range.min, range.max, levels.data(), size);
+
+        ImageData image;
+        QVERIFY(setGrayImage(image, width, height, pattern.samples));
+        const HistogramData data(&image);
+        QCOMPARE(data.min, range.min);
+        QCOMPARE(data.max, range.max);
+        QCOMPARE(data.size, size);
+        QVERIFY2(std::equal(counts.begin(), counts.end(), data.histogram), pattern.name.c_str());
+        QVERIFY2(std::equal(levels.begin(), levels.end(), data.displayMap), pattern.name.c_str());
+    }
+}
+
 } // namespace
 
 class TestHistogramData : public QObject
@@ -52,6 +81,7 @@ private Q_SLOTS:
     void setImageData_ofValues10To20();
     void setImageData_inTheConstructor();
     void setImageData_ofEachDepth();
+    void setImageData_ofManySamples();
     void setImageData_uniformImage_data();
     void setImageData_uniformImage();
     void setImageData_twiceKeepsOrReplacesTheBins();
@@ -170,6 +200,26 @@ void TestHistogramData::setImageData_ofEachDepth()
     QCOMPARE(data.max, 4294967295u);
     QCOMPARE(countsOf(data.histogram, 2), (QVector<uint> { 1, 2 }));
     QCOMPARE(levelsOf(data.displayMap, 2), (QVector<int> { 0, 255 }));
+}
+
+void TestHistogramData::setImageData_ofManySamples()
+{
+    compareWithThePlainLoops<uchar>(701, 401);
+    compareWithThePlainLoops<ushort>(701, 401);
+    compareWithThePlainLoops<uint>(701, 401);
+
+    ImageData image; // again into the bins of the image before
+    QVERIFY(setGrayImage(image, 640, 480, std::vector<uchar>(307200, 7)));
+    HistogramData data(&image);
+    const uint* bins = data.histogram;
+    QTest::ignoreMessage(QtDebugMsg, "[createHistogramBuffer]min: 9, max: 9, size: 1\n");
+    QVERIFY(setGrayImage(image, 640, 500, std::vector<uchar>(320000, 9)));
+    data.setImageData(&image);
+    QVERIFY(data.histogram == bins);
+    QCOMPARE(data.histogram[0], 320000u);
+    const std::vector<uchar> few { 9, 9, 9 };
+    data.fillHistogram(few.data(), 3);
+    QCOMPARE(data.histogram[0], 3u);
 }
 
 void TestHistogramData::setImageData_uniformImage_data()
