@@ -4,7 +4,7 @@
 #include <hwy/highway.h>
 
 #include "analysis/displayconversion.h"
-#include "analysis/prefetch.h"
+#include "image/prefetch.h"
 
 #include <QtEndian>
 
@@ -20,7 +20,16 @@ namespace HWY_NAMESPACE {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
-constexpr quintptr prefetchBytes = 8192;
+#if HWY_HAVE_FLOAT64 && HWY_TARGET != HWY_SCALAR
+/// Levels 0..255 of as many bins as there are doubles in a vector.
+template <class Integers, class Bins>
+hn::Vec<Integers> levelLanes(Integers integers, Bins bins, double scale)
+{
+    const hn::ScalableTag<double> doubles;
+    const auto scaled = hn::Mul(hn::PromoteTo(doubles, bins), hn::Set(doubles, scale));
+    return hn::DemoteTo(integers, hn::Min(scaled, hn::Set(doubles, 255.0)));
+}
+#endif
 
 /// Levels of `count` samples whose bins are below 2^31 and whose scale is a number from 0 on, by
 /// the formula. Returns the highest bin: one without a level means that the levels do not hold.
@@ -28,25 +37,26 @@ uint formulaLevels(const uint* samples, qint64 count, uint min, double scale, uc
 {
     uint highestBin = 0;
     qint64 i = 0;
-#if HWY_HAVE_FLOAT64
-    const hn::ScalableTag<double> doubles;
-    const hn::Rebind<uint, decltype(doubles)> bits;
-    const hn::Rebind<int, decltype(doubles)> integers;
-    const hn::Rebind<uchar, decltype(doubles)> bytes;
-    const auto step = qint64(hn::Lanes(doubles));
-    auto highest = hn::Zero(bits);
+#if HWY_HAVE_FLOAT64 && HWY_TARGET != HWY_SCALAR
+    const hn::ScalableTag<uint> words;
+    const hn::Rebind<int, decltype(words)> integers;
+    const hn::Half<decltype(integers)> half;
+    const hn::Rebind<uchar, decltype(words)> bytes;
+    const auto step = qint64(hn::Lanes(words));
+    auto highest = hn::Zero(words);
     for (; i + step <= count; i += step) {
-        prefetchAhead(samples + i, prefetchBytes);
-        const auto bins = hn::Sub(hn::LoadU(bits, samples + i), hn::Set(bits, min));
+        prefetchAhead(samples + i);
+        const auto bins = hn::Sub(hn::LoadU(words, samples + i), hn::Set(words, min));
         highest = hn::Max(highest, bins);
-        const auto scaled
-            = hn::Mul(hn::PromoteTo(doubles, hn::BitCast(integers, bins)), hn::Set(doubles, scale));
-        const auto levels = hn::DemoteTo(integers, hn::Min(scaled, hn::Set(doubles, 255.0)));
-        hn::StoreU(hn::DemoteTo(bytes, levels), bytes, out + i);
+        const auto signedBins = hn::BitCast(integers, bins);
+        const auto lower = levelLanes(half, hn::LowerHalf(half, signedBins), scale);
+        const auto upper = levelLanes(half, hn::UpperHalf(half, signedBins), scale);
+        const auto levels = hn::BitCast(words, hn::Combine(integers, upper, lower));
+        hn::StoreU(hn::TruncateTo(bytes, levels), bytes, out + i);
     }
-    HWY_ALIGN uint bins[HWY_MAX_BYTES / sizeof(uint)];
-    hn::Store(highest, bits, bins);
-    highestBin = *std::max_element(bins, bins + step);
+    HWY_ALIGN uint highestBins[HWY_MAX_BYTES / sizeof(uint)];
+    hn::Store(highest, words, highestBins);
+    highestBin = *std::max_element(highestBins, highestBins + step);
 #endif
     for (; i < count; ++i) {
         const uint bin = samples[i] - min;

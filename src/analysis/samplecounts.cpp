@@ -3,7 +3,7 @@
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
-#include "analysis/prefetch.h"
+#include "image/prefetch.h"
 #include "analysis/samplecounts.h"
 
 #include <algorithm>
@@ -25,6 +25,7 @@ SampleRange rangeOf(const Sample* samples, qint64 count)
     auto highest = hn::Zero(lanes);
     qint64 i = 0;
     for (; i + step <= count; i += step) {
+        prefetchAhead(samples + i);
         const auto values = hn::LoadU(lanes, samples + i);
         lowest = hn::Min(lowest, values);
         highest = hn::Max(highest, values);
@@ -107,7 +108,7 @@ void addCountsFromMin(const uint* samples, qint64 count, uint min, uint* bins)
 {
     qint64 i = 0;
     for (; i + 4 <= count; i += 4) {
-        prefetchAhead(samples + i, 4096);
+        prefetchAhead(samples + i);
         quint64 first; // two samples a load: the loads are what there are most of
         quint64 second;
         std::memcpy(&first, samples + i, sizeof(first));

@@ -1,14 +1,15 @@
 #include "analysis/valuecounts.h"
 
-#include "analysis/prefetch.h"
+#include "image/prefetch.h"
 
 #include <cstring>
 
 namespace {
 
 /// Neighbours are counted in tables of their own, or the processor would wait for its last store
-/// wherever they are alike.
-constexpr int tableCount = 4;
+/// wherever they are alike. More than two tables crowd each other out of the cache where the values
+/// spread over the whole type.
+constexpr int tableCount = 2;
 
 constexpr int wordValues = 65536;
 
@@ -19,15 +20,20 @@ constexpr int tableStride = wordValues + 256;
 /// With fewer samples than this the tables are not worth clearing.
 constexpr qint64 fewestSamples = wordValues * 4;
 
-/// Counts four words of 16 bits.
+/// The word of 16 bits at `bytes`, as it stands in memory.
+uint wordAt(const uchar* bytes)
+{
+    quint16 word;
+    std::memcpy(&word, bytes, sizeof(word));
+    return word;
+}
+
 void countFour(const uchar* bytes, uint* tables)
 {
-    quint64 four;
-    std::memcpy(&four, bytes, sizeof(four));
-    ++tables[four & 0xffff];
-    ++tables[tableStride + (four >> 16 & 0xffff)];
-    ++tables[2 * tableStride + (four >> 32 & 0xffff)];
-    ++tables[3 * tableStride + (four >> 48)];
+    ++tables[wordAt(bytes)];
+    ++tables[tableStride + wordAt(bytes + 2)];
+    ++tables[wordAt(bytes + 4)];
+    ++tables[tableStride + wordAt(bytes + 6)];
 }
 
 /// Counts the words of 16 bits that `bytes` consists of, a cache line at a time.
@@ -36,7 +42,7 @@ void countWords(const uchar* bytes, qint64 wordCount, uint* tables)
     qint64 word = 0;
     for (; word + 32 <= wordCount; word += 32) {
         const uchar* line = bytes + 2 * word;
-        prefetchAhead(line, 2048);
+        prefetchAhead(line);
         countFour(line, tables);
         countFour(line + 8, tables);
         countFour(line + 16, tables);
@@ -47,18 +53,15 @@ void countWords(const uchar* bytes, qint64 wordCount, uint* tables)
         countFour(line + 56, tables);
     }
     for (; word < wordCount; ++word) {
-        quint16 one;
-        std::memcpy(&one, bytes + 2 * word, sizeof(one));
-        ++tables[one];
+        ++tables[wordAt(bytes + 2 * word)];
     }
 }
 
-/// Adds the other tables to the first one.
+/// Adds the second table to the first one.
 void addTables(uint* tables)
 {
     for (int value = 0; value < wordValues; ++value) {
-        tables[value] += tables[value + tableStride] + tables[value + 2 * tableStride]
-            + tables[value + 3 * tableStride];
+        tables[value] += tables[value + tableStride];
     }
 }
 

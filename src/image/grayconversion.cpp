@@ -4,12 +4,15 @@
 #include <hwy/highway.h>
 
 #include "image/grayconversion.h"
+#include "image/prefetch.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace {
 namespace HWY_NAMESPACE {
 
 namespace hn = hwy::HWY_NAMESPACE;
+
+constexpr size_t cacheLineBytes = 64;
 
 template <class Sample>
 Sample grayValue(const Sample* pixel)
@@ -75,8 +78,12 @@ void grayPixels(Sample* samples, qint64 pixelCount)
 {
     using Step = GrayStep<Sample, Wide>;
     const qint64 step = Step::pixels();
+    const auto lineSamples = qint64(cacheLineBytes / sizeof(Sample));
     qint64 pixel = 0;
     for (; pixel + step <= pixelCount; pixel += step) {
+        for (qint64 sample = 3 * pixel; sample < 3 * (pixel + step); sample += lineSamples) {
+            prefetchAhead(samples + sample);
+        }
         Step::convert(samples + 3 * pixel, samples + pixel);
     }
     for (; pixel < pixelCount; ++pixel) {
