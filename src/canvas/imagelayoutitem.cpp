@@ -59,6 +59,14 @@ void ImageLayoutItem::setImage(QImage* displayImage)
         }
         refreshPixmap();
     }
+    if (fitAfresh()) {
+        resetAnchor();
+    }
+}
+
+/// Fits the image after it or the content has changed. False when a receiver has deleted the item.
+bool ImageLayoutItem::fitAfresh()
+{
     const QPointer<ImageLayoutItem> self(this);
     computeScales();
     if (self) {
@@ -67,9 +75,7 @@ void ImageLayoutItem::setImage(QImage* displayImage)
     if (self) {
         moveCross();
     }
-    if (self) {
-        resetAnchor();
-    }
+    return self;
 }
 
 /// To be called with the mutex held.
@@ -92,14 +98,7 @@ void ImageLayoutItem::updateImage()
 void ImageLayoutItem::sizeChanged()
 {
     adaptContentToImage();
-    const QPointer<ImageLayoutItem> self(this);
-    computeScales();
-    if (self) {
-        fit();
-    }
-    if (self) {
-        moveCross();
-    }
+    fitAfresh();
 }
 
 void ImageLayoutItem::adaptContentToImage()

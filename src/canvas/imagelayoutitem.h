@@ -77,6 +77,7 @@ private:
     void refreshPixmap();
     void adaptContentToImage();
     void computeScales();
+    bool fitAfresh();
     void zoomTo(double wanted);
     void scroll(int distance, Qt::Orientation orientation);
     void moveCross();
