@@ -584,6 +584,11 @@ void TestImageIntensityAnalysis::changedDrawRect_sendsTheShownPart()
     QCOMPARE(log.take(),
         (QStringList { "vertical [0 153]", "horizontal [0 51 102]", "vertical [0 153] 1 1",
             "horizontal [0 51 102] 1 2", "range 10 20" }));
+    // The vertical line goes by the top, the horizontal one by the left.
+    engine.changedDrawRect(QRectF(2.0, 1.0, 1.0, 1.0));
+    QCOMPARE(log.take(),
+        (QStringList { "vertical [0 153]", "horizontal [0 51 102]", "vertical [0 153] 1 1",
+            "horizontal [0 51 102] 2 1", "range 10 20" }));
 }
 
 void TestImageIntensityAnalysis::changedDrawRect_survivesAnyRectangle()
