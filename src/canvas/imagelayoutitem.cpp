@@ -1,6 +1,7 @@
 #include "canvas/imagelayoutitem.h"
 
 #include "canvas/displaypixmap.h"
+#include "canvas/roigeometry.h"
 #include "image/saturate.h"
 
 #include <QDebug>
@@ -20,6 +21,7 @@ constexpr double zoomFactor = 1.5;
 ImageLayoutItem::ImageLayoutItem(QImage* displayImage, QGraphicsItem* parent)
     : ComponentWithBordersItem(parent)
     , cross(this)
+    , rectangles(this)
 {
     setGraphicsItem(this);
     setFlag(QGraphicsItem::ItemClipsChildrenToShape, true);
@@ -245,6 +247,32 @@ QPointF ImageLayoutItem::imagePixelAt(const QPointF& point) const
     qDebug("[mapToPixel]sacle: %.5f, anchor[%.1f, %.1f], pos[%d, %d]\n", scale, point.x(),
         point.y(), pixel.x(), pixel.y());
     return pixel;
+}
+
+QRectF ImageLayoutItem::imageExtent() const
+{
+    return hasImage() ? imageExtentInItem(drawRect, image->size(), size) : QRectF();
+}
+
+QRectF ImageLayoutItem::mapRectFromImage(const QRectF& r) const
+{
+    return roiToItem(r, drawRect, size);
+}
+
+void ImageLayoutItem::snapRect(QRectF& r) const
+{
+    r = roiOnPixelMiddles(r, scale, size, imageExtent());
+}
+
+QRectF ImageLayoutItem::mapRectToImage(const QRectF& r) const
+{
+    if (!hasImage() || size.isEmpty()) {
+        return QRectF();
+    }
+    const QPoint topLeft = imagePixelAt(r.topLeft()).toPoint();
+    const QPoint bottomRight
+        = imagePixelAt(QPointF(r.x() + r.width(), r.y() + r.height())).toPoint();
+    return roiFromPixels(topLeft, bottomRight, image->size());
 }
 
 void ImageLayoutItem::mousePressEvent(QGraphicsSceneMouseEvent* event)

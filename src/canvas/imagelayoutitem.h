@@ -2,6 +2,7 @@
 
 #include "canvas/componentwithbordersitem.h"
 #include "canvas/crossitem.h"
+#include "canvas/rectangleitems.h"
 #include "canvas/viewport.h"
 
 #include <QGraphicsLayoutItem>
@@ -11,7 +12,8 @@
 class QImage;
 
 /// Shows the display image, lets the user zoom it in steps, scroll it and place the anchor with
-/// the left button, and announces the visible part and the anchor.
+/// the left button, and announces the visible part and the anchor. Holds the cross that marks the
+/// anchor, and the regions of interest.
 ///
 /// The display image belongs to somebody else; a pointer that is null, or to a null image, counts
 /// as no image: then nothing but the frame is drawn and every view change does nothing. Call
@@ -28,6 +30,7 @@ public:
 
     QPixmap pixmap; ///< copy of the display image, as drawn
     CrossItem cross; ///< marks the anchor; a child of this item
+    RectangleItems rectangles; ///< the regions of interest drawn over the image
     QImage* image = nullptr; ///< not owned
     QPointF anchor; ///< image pixels, whole numbers
     double scale = 1.0; ///< item units per image pixel
@@ -43,6 +46,16 @@ public:
     /// Puts the anchor into the middle of the bottom row and announces it. Without an image nothing
     /// happens.
     void resetAnchor();
+
+    /// The whole image in item units, which starts left of and above the item when it is zoomed
+    /// in; null without an image.
+    QRectF imageExtent() const;
+    /// Image pixels to item units; null when nothing is visible.
+    QRectF mapRectFromImage(const QRectF& r) const;
+    /// From a scale of 10 on, puts each edge into the middle of a displayed pixel.
+    void snapRect(QRectF& r) const;
+    /// Item units to whole image pixels; null without an image.
+    QRectF mapRectToImage(const QRectF& r) const;
 
     void setGeometry(const QRectF& rect) override;
     QSizeF sizeHint(Qt::SizeHint which, const QSizeF& constraint = QSizeF()) const override;

@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr double snappingScale = 10.0; // from here on a displayed pixel is large enough to aim at
-
 /// First visible pixel after zooming one axis, before it is limited to the image.
 int zoomedOrigin(
     int countBefore, int count, int originBefore, double crossPosition, double contentExtent)
@@ -38,10 +36,8 @@ int visibleCount(double contentExtent, double scale, int imageCount)
     return std::max(1, std::min(truncated(contentExtent / scale), imageCount));
 }
 
-double snappedCoordinate(double coordinate, double extent, double scale)
+double snappedCoordinate(double coordinate, double extent, double cell)
 {
-    const int cells = std::max(1, truncated(extent / scale));
-    const double cell = extent / cells;
     const double middle = truncated(coordinate / cell) * cell + cell / 2.0;
     return std::max(std::min(middle, extent - cell / 2.0), cell / 2.0);
 }
@@ -143,6 +139,13 @@ QPointF snappedToPixel(const QPointF& point, double scale, const QSizeF& content
     if (!(scale >= snappingScale)) {
         return point;
     }
-    return QPointF(snappedCoordinate(point.x(), content.width(), scale),
-        snappedCoordinate(point.y(), content.height(), scale));
+    const QSizeF cell = pixelCell(content, scale);
+    return QPointF(snappedCoordinate(point.x(), content.width(), cell.width()),
+        snappedCoordinate(point.y(), content.height(), cell.height()));
+}
+
+QSizeF pixelCell(const QSizeF& content, double scale)
+{
+    return QSizeF(content.width() / std::max(1, truncated(content.width() / scale)),
+        content.height() / std::max(1, truncated(content.height() / scale)));
 }

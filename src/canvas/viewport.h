@@ -64,3 +64,9 @@ QPoint mapPointToImage(const QPointF& point, const QRectF& visible, const QSizeF
 /// From a scale of 10 on, the middle of the displayed pixel that `point` lies in; below it `point`
 /// itself.
 QPointF snappedToPixel(const QPointF& point, double scale, const QSizeF& content);
+
+/// The scale from which on positions snap: a displayed pixel is large enough to aim at.
+constexpr double snappingScale = 10.0;
+
+/// Item units of one displayed pixel when whole pixels fill the content.
+QSizeF pixelCell(const QSizeF& content, double scale);
