@@ -6,7 +6,7 @@ log_dir="${TMPDIR:-/tmp}/vkintensity-logs.$(id -u)"
 mkdir -p "$log_dir"
 
 run_packages="g++ cmake ninja-build qtbase5-dev libopencv-core-dev libopencv-imgcodecs-dev libhwy-dev fonts-dejavu-core"
-test_packages="$run_packages xvfb xauth"
+test_packages="$run_packages xvfb xauth xdotool"
 ci_packages="$test_packages libbenchmark-dev clang clang-format binutils"
 
 fail() {

@@ -14,6 +14,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPushButton>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTimer>
@@ -163,6 +164,11 @@ void ViewerWindow::closeFile()
 void ViewerWindow::sltSwitchToGallery()
 {
     closeFile();
+    auto* const button
+        = m_intensityWidget ? m_intensityWidget->findChild<QPushButton*>("Return") : nullptr;
+    if (button) {
+        button->setChecked(false); // it is checkable, and the click has checked it
+    }
 }
 
 QString ViewerWindow::draggedFile(const QMimeData* data)

@@ -39,3 +39,14 @@ ImageViewLayout imageViewLayout(const QSize& canvas, const QSize& content)
     layout.grayRuler = QRect(x, 31, w, rulerHeight);
     return layout;
 }
+
+ProfileChartLayout profileChartLayout(const QSize& canvas)
+{
+    const int w = canvas.width() - 170;
+    const int h = canvas.height() - 370;
+    ProfileChartLayout layout;
+    layout.curve = QRect(130, 160, w, h);
+    layout.pixelRuler = QRect(130, canvas.height() - 209, w, rulerHeight);
+    layout.valueRuler = QRect(40, 160, 90, h);
+    return layout;
+}

@@ -26,3 +26,15 @@ struct ImageViewLayout
 /// Places everything around an image drawn with `content` units in a canvas of `canvas` units.
 /// Values stay meaningful, if out of sight, for canvases down to 0 x 0.
 ImageViewLayout imageViewLayout(const QSize& canvas, const QSize& content);
+
+/// Layout rectangles of a 2D chart, which takes the place of the image view.
+struct ProfileChartLayout
+{
+    QRect curve;
+    QRect pixelRuler;
+    QRect valueRuler;
+};
+
+/// Places a 2D chart in a canvas of `canvas` units. Below 170 x 370 extents come out negative and
+/// stay so: there is nothing to draw then.
+ProfileChartLayout profileChartLayout(const QSize& canvas);

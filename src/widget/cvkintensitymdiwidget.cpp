@@ -4,11 +4,13 @@
 #include "image/saturate.h"
 #include "panel/scaledpixels.h"
 #include "plots/gradientcolorlayoutitem.h"
+#include "plots/intensitycurveaxisitem.h"
 #include "plots/intensitycurvehorizontal.h"
 #include "plots/intensitycurvevertical.h"
 #include "plots/rulerbarhorizontal.h"
 #include "plots/rulerbarvertical.h"
 #include "widget/canvaslayout.h"
+#include "widget/placeitem.h"
 #include "widget/readout.h"
 
 #include <QGraphicsScene>
@@ -25,12 +27,13 @@ namespace {
 
 constexpr float zoomButtonPixels = 40.0F; // at 96 dots per inch
 
-/// Resizes an item and hands it its place. The rectangle is the item's size and place in one.
-template <class Item>
-void place(Item* item, const QRect& rect)
+/// The axis of `extent` pixels as a chart's pixel ruler reads it.
+ReadoutAxis axisOf(const RulerBarHorizontal& ruler, int extent)
 {
-    item->setSize(rect.width(), rect.height());
-    item->setGeometry(QRectF(rect));
+    int start = -1;
+    int end = -1;
+    ruler.getValueRange(&start, &end);
+    return rulerAxis(start, end, ruler.labelPrecision(), ruler.zoom(), extent);
 }
 
 } // namespace
@@ -45,6 +48,9 @@ CVKIntensityMdiWidget::CVKIntensityMdiWidget(QWidget* parent)
     m_background.load(QStringLiteral(":res/skin/mdi_bk.jpg"));
     buildCanvas();
     buildImageView();
+    m_rowChart.build(ProfileChart::Row, m_scene, tr("Gray"), tr("Pixel Number"));
+    m_columnChart.build(ProfileChart::Column, m_scene, tr("Gray"), tr("Pixel Number"));
+    applyDisplayMode();
 }
 
 CVKIntensityMdiWidget::~CVKIntensityMdiWidget()
@@ -123,7 +129,7 @@ void CVKIntensityMdiWidget::buildImageView()
 }
 
 /// The connections of the image view, in the order in which they are made.
-QVector<CVKIntensityMdiWidget::Wire> CVKIntensityMdiWidget::imageViewWires() const
+QVector<Wire> CVKIntensityMdiWidget::imageViewWires() const
 {
     const ImageIntensityAnalysis* const engine = &m_analysis;
     return {
@@ -155,9 +161,18 @@ QVector<CVKIntensityMdiWidget::Wire> CVKIntensityMdiWidget::imageViewWires() con
             m_bottomCurve, SLOT(updateCurve(uchar*, int, int, int)) },
         { m_imageItem, SIGNAL(changeAnchorImagePosition(QPointF)), //
             this, SLOT(changedAnchorImagePosition(QPointF)) },
+        { &m_imageItem->rectangles, SIGNAL(updateSelectedRoi(int, QRectF)), //
+            engine, SLOT(changedIntensityRoi(int, QRectF)) },
         { m_zoomIn, SIGNAL(clicked()), m_imageItem, SLOT(zoomIn()) },
         { m_zoomOut, SIGNAL(clicked()), m_imageItem, SLOT(zoomOut()) },
     };
+}
+
+/// Every connection that a load makes and a close undoes, in that order.
+QVector<Wire> CVKIntensityMdiWidget::loadedImageWires() const
+{
+    return imageViewWires() + m_rowChart.wires(m_imageItem, &m_analysis, this)
+        + m_columnChart.wires(m_imageItem, &m_analysis, this);
 }
 
 bool CVKIntensityMdiWidget::loadImage(const QString& path)
@@ -170,11 +185,14 @@ bool CVKIntensityMdiWidget::loadImage(const QString& path)
     m_imageItem->setImage(m_analysis.displayImage);
     updateGrayRange();
     // Deliberate: nothing is undone first, so a second load doubles every connection.
-    for (const Wire& wire : imageViewWires()) {
-        connect(wire.sender, wire.signal, wire.receiver, wire.slot);
-    }
+    connectAll(loadedImageWires());
     layOutImageView(size());
+    layOutCharts(size());
     m_imageItem->resetAnchor();
+    m_rowChart.reset();
+    m_columnChart.reset();
+    m_rowChart.valueRuler->setZoom(1.0);
+    m_columnChart.valueRuler->setZoom(1.0);
     return true;
 }
 
@@ -183,9 +201,8 @@ void CVKIntensityMdiWidget::closeImage()
     if (!m_image.isLoaded()) {
         return;
     }
-    for (const Wire& wire : imageViewWires()) {
-        disconnect(wire.sender, wire.signal, wire.receiver, wire.slot);
-    }
+    disconnectAll(loadedImageWires());
+    m_imageItem->rectangles.clear();
     m_imageItem->setImage(m_analysis.displayImage);
     m_analysis.setImageData(nullptr);
     m_image.release();
@@ -197,6 +214,76 @@ void CVKIntensityMdiWidget::updateGrayRange()
         double(m_analysis.histogram.min), double(m_analysis.histogram.max));
 }
 
+void CVKIntensityMdiWidget::switchAxis(int index)
+{
+    if (index == 0 || index == 1) {
+        m_axis = index;
+        applyDisplayMode();
+    }
+}
+
+void CVKIntensityMdiWidget::switchDisplayType(int index)
+{
+    if (index == 0 || index == 1) {
+        m_displayType = index;
+        applyDisplayMode();
+    }
+}
+
+void CVKIntensityMdiWidget::applyDisplayMode()
+{
+    const bool isImageView = m_displayType == 0;
+    for (ComponentItem* const item : std::initializer_list<ComponentItem*> { m_imageItem,
+             m_leftCurve, m_bottomCurve, m_leftRuler, m_bottomRuler, m_colorBar, m_grayRuler }) {
+        item->setVisible(isImageView);
+    }
+    m_zoomPanel->setVisible(isImageView);
+    m_rowChart.setVisible(!isImageView && m_axis == 0, shownImage());
+    m_columnChart.setVisible(!isImageView && m_axis == 1, shownImage());
+    refreshReadout();
+}
+
+/// Lets the visible view announce its anchor once more.
+void CVKIntensityMdiWidget::refreshReadout()
+{
+    if (m_displayType == 0) {
+        Q_EMIT m_imageItem->changeAnchorImagePosition(m_analysis.anchor);
+    } else if (m_axis == 0) {
+        Q_EMIT m_rowChart.curve->changeAnchorPosition(false, m_rowChart.curve->anchorIndex());
+    } else {
+        Q_EMIT m_columnChart.curve->changeAnchorPosition(true, m_columnChart.curve->anchorIndex());
+    }
+}
+
+void CVKIntensityMdiWidget::changedMaxPeaksCount(int count)
+{
+    m_rowChart.curve->changedMaxPeaksCount(count);
+    m_columnChart.curve->changedMaxPeaksCount(count);
+}
+
+void CVKIntensityMdiWidget::changedShowPeaksState(bool isShow)
+{
+    m_rowChart.showPeaks(isShow);
+    m_columnChart.showPeaks(isShow);
+}
+
+void CVKIntensityMdiWidget::changedPixelsToWavelength(double startX, double pixelWidth)
+{
+    if (!m_image.isLoaded()) {
+        return;
+    }
+    const double rowEnd = startX + m_image.width * pixelWidth;
+    m_bottomRuler->changedShowValueRange(startX, rowEnd);
+    m_rowChart.pixelRuler->changedShowValueRange(startX, rowEnd);
+    m_rowChart.curve->changedShowValueRange(startX, rowEnd);
+    // Deliberate: the column gets wavelengths, too.
+    const double columnEnd = startX + m_image.height * pixelWidth;
+    m_leftRuler->changedShowValueRange(startX, columnEnd);
+    m_columnChart.pixelRuler->changedShowValueRange(startX, columnEnd);
+    m_columnChart.curve->changedShowValueRange(startX, columnEnd);
+    refreshReadout();
+}
+
 void CVKIntensityMdiWidget::changedPalette(QVector<QColor> pal)
 {
     m_colorBar->changedPalette(pal);
@@ -204,12 +291,14 @@ void CVKIntensityMdiWidget::changedPalette(QVector<QColor> pal)
 
 void CVKIntensityMdiWidget::changedVerticalRulerTitle(QString title)
 {
-    m_leftRuler->changedTitleName(title);
+    m_leftRuler->changedTitleName(title); // the charts' value rulers keep theirs
 }
 
 void CVKIntensityMdiWidget::changedHorizontalRulerTitle(QString title)
 {
     m_bottomRuler->changedTitleName(title);
+    m_rowChart.pixelRuler->changedTitleName(title);
+    m_columnChart.pixelRuler->changedTitleName(title);
 }
 
 void CVKIntensityMdiWidget::changedAnchorImagePosition(QPointF anchor)
@@ -218,13 +307,27 @@ void CVKIntensityMdiWidget::changedAnchorImagePosition(QPointF anchor)
     updateReadout(pixel.x(), pixel.y());
 }
 
+void CVKIntensityMdiWidget::changedAnchorImagePosition(bool isHorizontal, int position)
+{
+    const QPoint anchor = m_analysis.anchor;
+    if (isHorizontal) {
+        updateReadout(anchor.x(), position);
+    } else {
+        updateReadout(position, anchor.y());
+    }
+}
+
 void CVKIntensityMdiWidget::updateReadout(int x, int y)
 {
     if (!m_image.isLoaded()) {
         return;
     }
+    const ReadoutPixel pixel = m_columnChart.curve->isVisible()
+        ? columnChartPixel(x, y, m_image.height)
+        : imageViewPixel(x, y, m_image.height);
     m_readout->setPlainText(
-        readoutText(imageViewPixel(x, y, m_image.height), m_image, ReadoutAxis(), ReadoutAxis()));
+        readoutText(pixel, m_image, axisOf(*m_rowChart.pixelRuler, m_image.width),
+            axisOf(*m_columnChart.pixelRuler, m_image.height)));
     placeReadout(height());
     update();
 }
@@ -234,6 +337,7 @@ void CVKIntensityMdiWidget::resizeEvent(QResizeEvent* event)
     const QSize canvas = event->size();
     m_view->setFixedSize(canvas);
     m_scene->setSceneRect(0.0, 0.0, canvas.width(), canvas.height());
+    layOutCharts(canvas);
     layOutImageView(canvas);
     placeReadout(canvas.height());
 }
@@ -246,23 +350,38 @@ void CVKIntensityMdiWidget::placeReadout(int canvasHeight)
     m_readout->setPos(0.0, canvasHeight - m_readout->boundingRect().height() - 10.0);
 }
 
+/// The display image, or null when there is none.
+const QImage* CVKIntensityMdiWidget::shownImage() const
+{
+    const QImage* const image = m_imageItem->image;
+    return image && !image->isNull() ? image : nullptr;
+}
+
+void CVKIntensityMdiWidget::layOutCharts(const QSize& canvas)
+{
+    if (shownImage()) {
+        m_rowChart.layOut(canvas);
+        m_columnChart.layOut(canvas);
+    }
+}
+
 void CVKIntensityMdiWidget::layOutImageView(const QSize& canvas)
 {
-    const QImage* const shown = m_imageItem->image;
-    if (!shown || shown->isNull()) {
+    const QImage* const shown = shownImage();
+    if (!shown) {
         return;
     }
     const QSize area = imageAreaSize(canvas, shown->size());
     m_imageItem->setSize(area.width(), area.height());
     const ImageViewLayout layout = imageViewLayout(canvas, roundedSize(m_imageItem->size));
     m_imageItem->setGeometry(QRectF(layout.image));
-    place(m_bottomRuler, layout.bottomRuler);
-    place(m_leftRuler, layout.leftRuler);
-    place(m_bottomCurve, layout.bottomCurve);
-    place(m_leftCurve, layout.leftCurve);
+    placeItem(m_bottomRuler, layout.bottomRuler);
+    placeItem(m_leftRuler, layout.leftRuler);
+    placeItem(m_bottomCurve, layout.bottomCurve);
+    placeItem(m_leftCurve, layout.leftCurve);
     m_colorBar->setSize(layout.image.width(), layout.colorBar.height());
     m_colorBar->setGeometry(QRectF(layout.colorBar));
-    place(m_grayRuler, layout.grayRuler);
+    placeItem(m_grayRuler, layout.grayRuler);
     m_zoomPanel->move(
         canvas.width() - m_zoomPanel->width(), (canvas.height() - m_zoomPanel->height()) / 2);
 }

@@ -3,6 +3,7 @@
 #include "analysis/imageintensityanalysis.h"
 #include "image/imagedata.h"
 #include "image/imageloadregistry.h"
+#include "widget/profilechart.h"
 
 #include <QColor>
 #include <QPixmap>
@@ -16,13 +17,14 @@ class IntensityCurveVertical;
 class QGraphicsScene;
 class QGraphicsTextItem;
 class QGraphicsView;
+class QImage;
 class QPushButton;
 class RulerBarHorizontal;
 class RulerBarVertical;
 
 /// The canvas side of the widget: owns the image, the loaders and the analysis engine, holds every
-/// canvas item in one scene, lays the items out on resize and connects them to each other while an
-/// image is loaded.
+/// canvas item in one scene, lays the items out on resize, shows either the image or the chart of
+/// its row or its column, and connects the items to each other while an image is loaded.
 class CVKIntensityMdiWidget : public QWidget
 {
     Q_OBJECT
@@ -48,33 +50,43 @@ Q_SIGNALS:
     void updateItemNames(QStringList itemNames); ///< part of the interface; not emitted
 
 public Q_SLOTS:
+    /// 0: the row's profile in the 2D chart, 1: the column's; anything else is ignored.
+    void switchAxis(int index);
+    /// 0: image view, 1: 2D chart; anything else is ignored.
+    void switchDisplayType(int index);
+    void changedMaxPeaksCount(int count);
+    void changedShowPeaksState(bool isShow);
     void changedPalette(QVector<QColor> pal);
     void changedVerticalRulerTitle(QString title);
     void changedHorizontalRulerTitle(QString title);
     void changedAnchorImagePosition(QPointF anchor); ///< image pixels
+    /// A pick in a chart: pixel `position` of the anchor's column (`isHorizontal`) counted from the
+    /// bottom row, or of its row.
+    void changedAnchorImagePosition(bool isHorizontal, int position);
+    /// Wavelength at pixel 0 and width of a pixel in the same unit, for both axes of the image;
+    /// negative values go back to pixel numbers. Without an image nothing happens.
+    void changedPixelsToWavelength(double startX, double pixelWidth);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    /// One connection that is made by each load and undone by close.
-    struct Wire
-    {
-        const QObject* sender;
-        const char* signal;
-        const QObject* receiver;
-        const char* slot;
-    };
-
     void buildCanvas();
     void buildImageView();
     void buildZoomPanel();
     QVector<Wire> imageViewWires() const;
+    QVector<Wire> loadedImageWires() const;
     void updateGrayRange();
+    const QImage* shownImage() const;
     void layOutImageView(const QSize& canvas);
+    void layOutCharts(const QSize& canvas);
+    void applyDisplayMode();
+    void refreshReadout();
     void updateReadout(int x, int y);
     void placeReadout(int canvasHeight);
 
+    int m_axis = 0; ///< chart shown in the 2D view: 0 row, 1 column
+    int m_displayType = 0; ///< 0 image view, 1 2D chart
     QPixmap m_background;
     ImageData m_image;
     ImageLoadRegistry m_loaders;
@@ -92,4 +104,6 @@ private:
     IntensityCurveHorizontal* m_bottomCurve = nullptr;
     GradientColorLayoutItem* m_colorBar = nullptr;
     RulerBarHorizontal* m_grayRuler = nullptr;
+    ProfileChart m_rowChart;
+    ProfileChart m_columnChart;
 };

@@ -1,8 +1,13 @@
 #include "widget/cvkintensitywidget.h"
 
+#include "canvas/imagelayoutitem.h"
+#include "panel/cvkdatahistogram.h"
+#include "panel/cvkdisplaypreferences.h"
+#include "panel/cvkintensityctrlwidget.h"
 #include "panel/scaledpixels.h"
 #include "widget/columnskin.h"
 #include "widget/cvkintensitymdiwidget.h"
+#include "widget/wire.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -21,25 +26,96 @@ CVKIntensityWidget::CVKIntensityWidget(QWidget* parent)
     createIntensityUI();
 }
 
-CVKIntensityWidget::~CVKIntensityWidget() = default;
+CVKIntensityWidget::~CVKIntensityWidget()
+{
+    delete m_controlPanel; // its signals feed the host: it goes first
+}
 
 bool CVKIntensityWidget::createIntensityUI()
 {
-    if (m_host) {
+    if (m_host || m_controlPanel) {
         return false;
     }
     m_host = new CVKIntensityMdiWidget(this);
     m_host->show();
+    m_controlPanel = new CVKIntensityCtrlWidget(this);
+    m_controlPanel->show();
+    connectPreferences();
+    connectHistogram();
     return true;
+}
+
+void CVKIntensityWidget::connectPreferences()
+{
+    const CVKDisplayPreferences* const preferences = m_controlPanel->displayPreferences();
+    if (!preferences) {
+        return;
+    }
+    const CVKIntensityMdiWidget* const host = m_host;
+    // Deliberate: changeVerticalRulerTitle(QString) is left out, although the host has the slot.
+    connectAll({
+        { preferences, SIGNAL(switchAxis(int)), host, SLOT(switchAxis(int)) },
+        { preferences, SIGNAL(switchDisplayType(int)), host, SLOT(switchDisplayType(int)) },
+        { preferences, SIGNAL(changeMaxPeaksCount(int)), host, SLOT(changedMaxPeaksCount(int)) },
+        { preferences, SIGNAL(changeShowPeaksState(bool)), //
+            host, SLOT(changedShowPeaksState(bool)) },
+        { preferences, SIGNAL(changePalette(QVector<QColor>)), //
+            host, SLOT(changedPalette(QVector<QColor>)) },
+        { preferences, SIGNAL(changeHorizontalRulerTitle(QString)), //
+            host, SLOT(changedHorizontalRulerTitle(QString)) },
+        { preferences, SIGNAL(changePixelsToWavelength(qreal, qreal)), //
+            host, SLOT(changedPixelsToWavelength(qreal, qreal)) },
+    });
+}
+
+void CVKIntensityWidget::connectHistogram()
+{
+    CVKDataHistogram* const histogram = m_controlPanel->dataHistogram();
+    const ImageLayoutItem* const imageItem = m_host->imageItem();
+    if (!histogram || !imageItem) {
+        return;
+    }
+    const RectangleItems* const regions = &imageItem->rectangles;
+    const ImageIntensityAnalysis* const engine = m_host->analysis();
+    connectAll({
+        { histogram, SIGNAL(addRoiItem()), regions, SLOT(addItem()) },
+        { histogram, SIGNAL(deleteRoiItem(int)), regions, SLOT(deleteItem(int)) },
+        { histogram, SIGNAL(selectRoiItem(int)), regions, SLOT(selectItem(int)) },
+        { regions, SIGNAL(updateItemNames(QStringList)), //
+            histogram, SLOT(updateItemNames(QStringList)) },
+        { engine, SIGNAL(newHistogramSize(int)), histogram, SLOT(newHistogramSize(int)) },
+        { engine, SIGNAL(updateRoiIntensityInfo(int, IntensityInfo)), //
+            histogram, SLOT(updateRoiIntensityInfo(int, IntensityInfo)) },
+        { engine, SIGNAL(updateRoiIntensityHistogram(uint*, int, uint, uint)), //
+            histogram, SLOT(updateRoiIntensityHistogram(uint*, int, uint, uint)) },
+        { histogram, SIGNAL(updateIntensityHistogram()), //
+            engine, SLOT(sendUpdetaIntensityHistogramSignal()) }, // spelled so on purpose
+    });
+    Q_EMIT histogram->updateIntensityHistogram();
 }
 
 bool CVKIntensityWidget::loadImage(const QString& path)
 {
-    if (!m_host) {
-        return false;
-    }
     try {
-        return m_host->loadImage(path);
+        if (!m_host || !m_controlPanel || !m_host->loadImage(path)) {
+            return false;
+        }
+        const QPointer<CVKDataHistogram> histogram
+            = m_controlPanel ? m_controlPanel->dataHistogram() : nullptr;
+        if (!histogram) {
+            return false; // the new image stays shown
+        }
+        histogram->resetRoiList();
+        if (histogram) {
+            Q_EMIT histogram->updateIntensityHistogram();
+        }
+        CVKDisplayPreferences* const preferences
+            = m_controlPanel ? m_controlPanel->displayPreferences() : nullptr;
+        if (!preferences) {
+            return false;
+        }
+        preferences->resetDefaults();
+        return true;
     } catch (...) {
         return false; // out of memory in a container; nothing is thrown into the application
     }
@@ -66,10 +142,15 @@ void CVKIntensityWidget::paintEvent(QPaintEvent*)
 
 void CVKIntensityWidget::resizeEvent(QResizeEvent* event)
 {
+    if (!m_controlPanel) {
+        return;
+    }
     const int columnWidth = scaledPixels(panelColumnPixels, primaryDotsPerInch());
+    const QSize window = event->size();
     if (m_host) {
         m_host->move(columnWidth, 0);
-        m_host->resize(event->size().width() - columnWidth, event->size().height());
+        m_host->resize(window.width() - columnWidth, window.height());
     }
+    m_controlPanel->resize(columnWidth, window.height());
     QWidget::resizeEvent(event);
 }

@@ -1,12 +1,26 @@
 #include "widget/readout.h"
 
 #include "image/imagedata.h"
+#include "image/saturate.h"
 
 #include <algorithm>
 
 ReadoutPixel imageViewPixel(int x, int y, int height)
 {
     return ReadoutPixel { x, y, double(height) - 1.0 - y };
+}
+
+ReadoutPixel columnChartPixel(int x, int y, int height)
+{
+    return ReadoutPixel { x, truncated(double(height) - 1.0 - y), double(y) };
+}
+
+ReadoutAxis rulerAxis(int start, int end, int decimals, double zoom, int extent)
+{
+    if (start < 0 || end < 0 || extent < 1) {
+        return ReadoutAxis();
+    }
+    return ReadoutAxis { decimals, (end * zoom - start) / extent, double(start) };
 }
 
 QString readoutText(const ReadoutPixel& pixel, const ImageData& image, const ReadoutAxis& xAxis,

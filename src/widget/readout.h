@@ -24,6 +24,15 @@ struct ReadoutPixel
 /// upward from the bottom one.
 ReadoutPixel imageViewPixel(int x, int y, int height);
 
+/// The pixel (`x`, `y`) as the chart of a column shows it: rows are counted upward from the bottom
+/// one already.
+ReadoutPixel columnChartPixel(int x, int y, int height);
+
+/// The axis of `extent` pixels under a ruler that reads `start` at pixel 0 and `end` times `zoom`
+/// at the far end, with `decimals` decimals. Plain pixel numbers when either end is negative or the
+/// image has no extent.
+ReadoutAxis rulerAxis(int start, int end, int decimals, double zoom, int extent);
+
 /// Two lines, "X:.. Y:.." and "Data:..", for `pixel` of the grey image `image`. Column and row are
 /// limited to 0 .. width and 0 .. height.
 /// Deliberate: not to width - 1 and height - 1, so x = width reads the first pixel of the next row.

@@ -11,6 +11,7 @@ private Q_SLOTS:
     void area();
     void placesOf1000x800WithASquareImage();
     void placesOfATinyCanvas();
+    void chartPlaces();
 };
 
 void TestCanvasLayout::area_data()
@@ -54,6 +55,15 @@ void TestCanvasLayout::placesOfATinyCanvas()
     QCOMPARE(layout.image, QRect(68, -35, 4, 0)); // (0 - 4 + 140) / 2, (0 - 0 - 70) / 2
     // An odd remainder is cut toward zero: (100 - 5 + 140) / 2, (30 - 1 - 70) / 2 = -20.5.
     QCOMPARE(imageViewLayout(QSize(100, 30), QSize(5, 1)).image, QRect(117, -20, 5, 1));
+}
+
+void TestCanvasLayout::chartPlaces()
+{
+    const ProfileChartLayout layout = profileChartLayout(QSize(1000, 800));
+    QCOMPARE(layout.curve, QRect(130, 160, 830, 430));
+    QCOMPARE(layout.pixelRuler, QRect(130, 591, 830, 50)); // one unit below the curve
+    QCOMPARE(layout.valueRuler, QRect(40, 160, 90, 430));
+    QCOMPARE(profileChartLayout(QSize(0, 0)).curve, QRect(130, 160, -170, -370));
 }
 
 QTEST_GUILESS_MAIN(TestCanvasLayout)

@@ -1,162 +1,10 @@
-#include "canvas/imagelayoutitem.h"
-#include "plots/gradientcolorlayoutitem.h"
-#include "plots/intensitycurvehorizontal.h"
-#include "plots/intensitycurvevertical.h"
-#include "plots/rulerbarhorizontal.h"
-#include "plots/rulerbarvertical.h"
-#include "support/recordingpaintdevice.h"
-#include "support/sampleframes.h"
-#include "widget/cvkintensitymdiwidget.h"
+#include "hostparts.h"
 
-#include <QGraphicsScene>
-#include <QGraphicsTextItem>
-#include <QGraphicsView>
 #include <QLayout>
-#include <QPainter>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QWheelEvent>
-#include <QtTest>
-
-#include <vector>
-
-namespace {
-
-/// The host with its parts, as the scene and the object names give them.
-struct Host
-{
-    Host()
-        : view(widget.findChild<QGraphicsView*>())
-        , scene(view->scene())
-        , zoomIn(widget.findChild<QPushButton*>("tool_Zoom_In"))
-        , zoomOut(widget.findChild<QPushButton*>("tool_Zoom_Out"))
-        , image(widget.imageItem())
-        , readout(item<QGraphicsTextItem>())
-        , leftCurve(item<IntensityCurveVertical>())
-        , bottomCurve(item<IntensityCurveHorizontal>())
-        , leftRuler(item<RulerBarVertical>())
-        , bottomRuler(item<RulerBarHorizontal>(0))
-        , grayRuler(item<RulerBarHorizontal>(1))
-        , colorBar(item<GradientColorLayoutItem>())
-    {
-    }
-
-    /// The scene's `index`th item of a type, in the order in which the items were added.
-    template <class Item>
-    Item* item(int index = 0) const
-    {
-        QVector<Item*> found;
-        const QList<QGraphicsItem*> items = scene->items(Qt::AscendingOrder);
-        for (QGraphicsItem* const candidate : items) {
-            if (auto* const wanted = dynamic_cast<Item*>(candidate)) {
-                found.append(wanted);
-            }
-        }
-        return found.value(index);
-    }
-
-    void click(const QPointF& scenePosition)
-    {
-        QTest::mouseClick(
-            view->viewport(), Qt::LeftButton, Qt::NoModifier, view->mapFromScene(scenePosition));
-    }
-
-    /// Presses the left button at a place of the scene and moves the pointer by `step` from there.
-    void drag(const QPointF& scenePosition, const QPoint& step)
-    {
-        QWidget* const viewport = view->viewport();
-        const QPoint start = view->mapFromScene(scenePosition);
-        QCursor::setPos(viewport->mapToGlobal(start));
-        QTest::mousePress(viewport, Qt::LeftButton, Qt::NoModifier, start);
-        const QPoint end = start + step;
-        QCursor::setPos(viewport->mapToGlobal(end));
-        QMouseEvent move(QEvent::MouseMove, end, viewport->mapToGlobal(end), Qt::NoButton,
-            Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(viewport, &move);
-        QTest::mouseRelease(viewport, Qt::LeftButton, Qt::NoModifier, end);
-    }
-
-    QStringList paintedTexts()
-    {
-        RecordingPaintDevice recorded;
-        QPainter painter(&recorded);
-        scene->render(&painter);
-        return recorded.texts();
-    }
-
-    QWidget window; // the host is made to be a child widget
-    CVKIntensityMdiWidget widget { &window };
-    QGraphicsView* view;
-    QGraphicsScene* scene;
-    QPushButton* zoomIn;
-    QPushButton* zoomOut;
-    ImageLayoutItem* image;
-    QGraphicsTextItem* readout;
-    IntensityCurveVertical* leftCurve;
-    IntensityCurveHorizontal* bottomCurve;
-    RulerBarVertical* leftRuler;
-    RulerBarHorizontal* bottomRuler;
-    RulerBarHorizontal* grayRuler;
-    GradientColorLayoutItem* colorBar;
-};
-
-struct Row
-{
-    const QObject* sender;
-    const char* signal;
-    const QObject* receiver;
-    const char* slot;
-};
-
-QVector<Row> imageViewRows(Host& host)
-{
-    const ImageIntensityAnalysis* const engine = host.widget.analysis();
-    return {
-        { host.image, SIGNAL(changeAnchorPosition(QPointF)), host.leftCurve,
-            SLOT(changedAnchorPosition(QPointF)) },
-        { host.image, SIGNAL(changeAnchorPosition(QPointF)), host.bottomCurve,
-            SLOT(changedAnchorPosition(QPointF)) },
-        { host.image, SIGNAL(changeImageSize(QSize)), host.bottomRuler,
-            SLOT(changedActualSize(QSize)) },
-        { host.image, SIGNAL(changeDrawRect(QRectF)), host.bottomRuler,
-            SLOT(changedActualRect(QRectF)) },
-        { host.image, SIGNAL(changeImageSize(QSize)), host.leftRuler,
-            SLOT(changedActualSize(QSize)) },
-        { host.image, SIGNAL(changeDrawRect(QRectF)), host.leftRuler,
-            SLOT(changedActualRect(QRectF)) },
-        { host.leftCurve, SIGNAL(scrollDistance(int)), host.image,
-            SLOT(scrollDistanceVertical(int)) },
-        { host.bottomCurve, SIGNAL(scrollDistance(int)), host.image,
-            SLOT(scrollDistanceHorizontal(int)) },
-        { engine, SIGNAL(updateImage()), host.image, SLOT(updateImage()) },
-        { host.colorBar, SIGNAL(changeColors(QVector<QColor>)), engine,
-            SLOT(changedColors(QVector<QColor>)) },
-        { host.image, SIGNAL(changeDrawRect(QRectF)), engine, SLOT(changedDrawRect(QRectF)) },
-        { host.image, SIGNAL(changeAnchorImagePosition(QPointF)), engine,
-            SLOT(changedAnchorPosition(QPointF)) },
-        { engine, SIGNAL(updateLineVertical(uchar*, int, int, int)), host.leftCurve,
-            SLOT(updateCurve(uchar*, int, int, int)) },
-        { engine, SIGNAL(updateLineHorizontal(uchar*, int, int, int)), host.bottomCurve,
-            SLOT(updateCurve(uchar*, int, int, int)) },
-        { host.image, SIGNAL(changeAnchorImagePosition(QPointF)), &host.widget,
-            SLOT(changedAnchorImagePosition(QPointF)) },
-        { host.zoomIn, SIGNAL(clicked()), host.image, SLOT(zoomIn()) },
-        { host.zoomOut, SIGNAL(clicked()), host.image, SLOT(zoomOut()) },
-    };
-}
-
-QVector<QColor> ramp(int red, int green, int blue)
-{
-    QVector<QColor> colors;
-    for (int i = 0; i < 256; ++i) {
-        colors.append(QColor(i * red / 255, i * green / 255, i * blue / 255));
-    }
-    return colors;
-}
-
-} // namespace
 
 class TestCVKIntensityMdiWidget : public QObject
 {
@@ -199,7 +47,7 @@ private Q_SLOTS:
 
 private:
     QString path(const QString& name) const { return m_folder.filePath(name); }
-    void openSquare(Host& host);
+    void openSquare(Host& host) { openFrame(host, path("square.raw")); }
 
     QTemporaryDir m_folder;
 };
@@ -207,14 +55,7 @@ private:
 void TestCVKIntensityMdiWidget::initTestCase()
 {
     QLoggingCategory::setFilterRules("*.debug=false");
-    // 512 x 512, 16 bits: 1000 + x in every row, but 5000 in the whole row 128.
-    std::vector<quint16> square(512 * 512);
-    for (int y = 0; y < 512; ++y) {
-        for (int x = 0; x < 512; ++x) {
-            square[size_t(y * 512 + x)] = quint16(y == 128 ? 5000 : 1000 + x);
-        }
-    }
-    QVERIFY(writeRawFile(path("square.raw"), rawFrame(512, 512, 1, 2, bytesOf(square))));
+    QVERIFY(writeSquareFrame(path("square.raw")));
     QVERIFY(writeRawFile(path("small.raw"),
         rawFrame(4, 2, 1, 1, bytesOf(std::vector<uchar> { 10, 20, 30, 40, 50, 60, 70, 80 }))));
     QVERIFY(writeRawFile(path("empty.raw"), rawFrame(0, 5, 1, 2, QByteArray())));
@@ -223,15 +64,6 @@ void TestCVKIntensityMdiWidget::initTestCase()
     QVERIFY(writeRawFile(path("lowercase.raw"), unsignedFrame));
     QVERIFY(writeFile(path("text.png"), "not a picture"));
     QVERIFY(writeFile(path("picture.gif"), "GIF89a"));
-}
-
-void TestCVKIntensityMdiWidget::openSquare(Host& host)
-{
-    host.window.resize(1100, 900);
-    host.widget.resize(1000, 800);
-    host.window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&host.window));
-    QVERIFY(host.widget.loadImage(path("square.raw")));
 }
 
 void TestCVKIntensityMdiWidget::metaObject_listsSignalAndSlotsInOrder()
@@ -245,11 +77,15 @@ void TestCVKIntensityMdiWidget::metaObject_listsSignalAndSlotsInOrder()
         const bool isSignal = i == meta.methodOffset();
         QCOMPARE(meta.method(i).methodType(), isSignal ? QMetaMethod::Signal : QMetaMethod::Slot);
     }
-    QCOMPARE(parameters, (QStringList { "itemNames", "pal", "title", "title", "anchor" }));
+    QCOMPARE(parameters,
+        (QStringList { "itemNames", "index", "index", "count", "isShow", "pal", "title", "title",
+            "anchor", "isHorizontal,position", "startX,pixelWidth" }));
     QCOMPARE(methods,
-        (QStringList { "updateItemNames(QStringList)", "changedPalette(QVector<QColor>)",
-            "changedVerticalRulerTitle(QString)", "changedHorizontalRulerTitle(QString)",
-            "changedAnchorImagePosition(QPointF)" }));
+        (QStringList { "updateItemNames(QStringList)", "switchAxis(int)", "switchDisplayType(int)",
+            "changedMaxPeaksCount(int)", "changedShowPeaksState(bool)",
+            "changedPalette(QVector<QColor>)", "changedVerticalRulerTitle(QString)",
+            "changedHorizontalRulerTitle(QString)", "changedAnchorImagePosition(QPointF)",
+            "changedAnchorImagePosition(bool,int)", "changedPixelsToWavelength(double,double)" }));
 }
 
 void TestCVKIntensityMdiWidget::palettesAreAMetaType()
@@ -292,7 +128,9 @@ void TestCVKIntensityMdiWidget::canvas_holdsItsItemsInOrder()
     }
     QCOMPARE(topLevel,
         (QList<QGraphicsItem*> { host.readout, host.image, host.bottomCurve, host.leftCurve,
-            host.bottomRuler, host.leftRuler, host.colorBar, host.grayRuler }));
+            host.bottomRuler, host.leftRuler, host.colorBar, host.grayRuler, host.rowChart.curve,
+            host.rowChart.valueRuler, host.rowChart.pixelRuler, host.columnChart.curve,
+            host.columnChart.valueRuler, host.columnChart.pixelRuler }));
     QCOMPARE(host.grayRuler->labelPrecision(), 0);
     QCOMPARE(host.bottomRuler->labelPrecision(), 1);
 }
@@ -373,7 +211,8 @@ void TestCVKIntensityMdiWidget::load_putsTheAnchorIntoTheBottomRow()
     openSquare(host);
     QCOMPARE(host.image->anchor, QPointF(256.0, 511.0));
     QCOMPARE(host.widget.analysis()->anchor, QPoint(256, 511));
-    QCOMPARE(host.readout->toPlainText(), QString("X:256  Y:0\nData:1256"));
+    // The charts are centred after that, and their picks announced: row 256 is what it says.
+    QCOMPARE(host.readout->toPlainText(), QString("X:256  Y:255\nData:1256"));
     // ceil(256 x 580 / 512) and ceil(511 x 580 / 512) = ceil(578.87)
     QCOMPARE(host.bottomCurve->anchorPosition(), 290);
     QCOMPARE(host.leftCurve->anchorPosition(), 579);
@@ -431,8 +270,8 @@ void TestCVKIntensityMdiWidget::wires_existWhileAnImageIsLoaded()
         if (closed) {
             host.widget.closeImage();
         }
-        const QVector<Row> rows = imageViewRows(host);
-        QCOMPARE(rows.size(), 17);
+        const QVector<Row> rows = loadedImageRows(host);
+        QCOMPARE(rows.size(), 18 + 5 + 5);
         for (const Row& row : rows) {
             QVERIFY2(QObject::disconnect(row.sender, row.signal, row.receiver, row.slot) != closed,
                 qPrintable(QString("%1 -> %2").arg(row.signal, row.slot)));
@@ -461,7 +300,7 @@ void TestCVKIntensityMdiWidget::wires_doubleWhenLoadedTwice()
 
     // One close undoes both.
     host.widget.closeImage();
-    for (const Row& row : imageViewRows(host)) {
+    for (const Row& row : loadedImageRows(host)) {
         QVERIFY(!QObject::disconnect(row.sender, row.signal, row.receiver, row.slot));
     }
 }
@@ -480,7 +319,7 @@ void TestCVKIntensityMdiWidget::wires_runInOrder()
         anchorPositions << host.leftCurve->anchorPosition();
     });
     host.click(QPointF(571.0, 221.0));
-    QCOMPARE(readouts, QStringList { "X:256  Y:0\nData:1256" }); // still the old one
+    QCOMPARE(readouts, QStringList { "X:256  Y:255\nData:1256" }); // still the old one
     QCOMPARE(anchorPositions, QVector<int> { 146 }); // the new one
 
     // A view goes to both rulers first, to the engine after.

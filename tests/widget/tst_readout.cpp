@@ -18,6 +18,9 @@ private Q_SLOTS:
     void readsZeroBehindTheLastRow();
     void scalesTheAxes();
     void readsZeroWithoutPixels();
+    void columnChart_countsRowsFromTheBottomAlready();
+    void rulerAxis_spreadsTheRangeOverTheImage();
+    void rulerAxis_withoutRangeShowsPixels();
 
 private:
     ImageData m_image; // 3 x 2: 10 11 12 / 20 21 22
@@ -74,6 +77,37 @@ void TestReadout::readsZeroWithoutPixels()
     ImageData empty;
     QCOMPARE(readoutText(imageViewPixel(1, 1, 0), empty, ReadoutAxis(), ReadoutAxis()),
         QString("X:0  Y:-2\nData:0"));
+}
+
+void TestReadout::columnChart_countsRowsFromTheBottomAlready()
+{
+    QCOMPARE(readoutText(columnChartPixel(1, 0, 2), m_image, ReadoutAxis(), ReadoutAxis()),
+        QString("X:1  Y:0\nData:21"));
+    QCOMPARE(readoutText(columnChartPixel(2, 1, 2), m_image, ReadoutAxis(), ReadoutAxis()),
+        QString("X:2  Y:1\nData:12"));
+    // A position of a longer column: the row is limited to 0, the shown number is not.
+    QCOMPARE(readoutText(columnChartPixel(0, 7, 2), m_image, ReadoutAxis(), ReadoutAxis()),
+        QString("X:0  Y:7\nData:10"));
+}
+
+void TestReadout::rulerAxis_spreadsTheRangeOverTheImage()
+{
+    const ReadoutAxis axis = rulerAxis(400, 1000, 1, 1.0, 300);
+    QCOMPARE(axis.decimals, 1);
+    QVERIFY(axis.scale == 2.0);
+    QVERIFY(axis.offset == 400.0);
+    QVERIFY(rulerAxis(400, 1000, 0, 1.2, 400).scale == 2.0); // (1200 - 400) / 400
+    QVERIFY(rulerAxis(0, 0, 0, 1.0, 400).scale == 0.0);
+}
+
+void TestReadout::rulerAxis_withoutRangeShowsPixels()
+{
+    for (const ReadoutAxis& axis : { rulerAxis(-1, -1, 1, 1.0, 300), rulerAxis(-1, 5, 1, 1.0, 300),
+             rulerAxis(5, -1, 1, 1.0, 300), rulerAxis(0, 100, 1, 1.0, 0) }) {
+        QCOMPARE(axis.decimals, 0);
+        QVERIFY(axis.scale == 1.0);
+        QVERIFY(axis.offset == 0.0);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestReadout)
