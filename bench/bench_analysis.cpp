@@ -4,6 +4,9 @@
 
 #include "analysis/displayconversion.h"
 #include "analysis/histogramdata.h"
+#include "analysis/roistatistics.h"
+
+#include <cmath>
 
 namespace {
 
@@ -93,7 +96,47 @@ void addDisplayPair(const std::string& name, const Frame& frame, double limit)
     addPair("display " + name, limit, plainLoop, fastLoop);
 }
 
+/// Statistics of the whole frame as a region: range, mean and deviation in a pass each, against the
+/// library's two.
+template <class Sample>
+void addRoiPair(const std::string& name, const Frame& frame, double limit)
+{
+    const auto plainLoop = [frame](benchmark::State& state) {
+        const ImageData& image = frameRecord<Sample>(frame);
+        const auto* samples = samplesOf<Sample>(image);
+        const qint64 count = image.pixelCount;
+        for (auto _ : state) {
+            const plain::Range range = plain::range(samples, count);
+            const quint64 distances = plain::distanceSum(samples, count, range.min);
+            const double mean = double(qint64(distances)) / double(count) + range.min;
+            const double squares = plain::addSquares(samples, count, mean, 0.0);
+            benchmark::DoNotOptimize(std::sqrt(squares / double(count)));
+        }
+    };
+    const auto fastLoop = [frame](benchmark::State& state) {
+        const ImageData& image = frameRecord<Sample>(frame);
+        const auto* samples = samplesOf<Sample>(image);
+        const RoiRows rows { QRect(0, 0, image.width, image.height), image.width,
+            image.pixelCount };
+        for (auto _ : state) {
+            const RoiTotals totals = roiTotals(samples, rows);
+            const double mean = roiMean(totals, rows);
+            benchmark::DoNotOptimize(roiDeviation(samples, rows, totals.range, mean));
+        }
+    };
+    addPair("roi " + name, limit, plainLoop, fastLoop);
+}
+
 const bool pairsAdded = [] {
+    addRoiPair<uchar>("1000x1000, 8 bit", { FrameKind::Camera, 1000, 1000, 255 }, 0.25);
+    addRoiPair<ushort>("1000x1000, 16 bit", { FrameKind::Camera, 1000, 1000, 65535 }, 0.25);
+    addRoiPair<uint>("1000x1000, 32 bit", { FrameKind::Camera, 1000, 1000, (1U << 20) - 1 }, 0.30);
+    addRoiPair<uchar>("8192x8192, 8 bit", { FrameKind::Camera, 8192, 8192, 255 }, 0.25);
+    addRoiPair<ushort>("8192x8192, 16 bit", { FrameKind::Camera, 8192, 8192, 65535 }, 0.25);
+    addRoiPair<uint>("8192x8192, 32 bit", { FrameKind::Camera, 8192, 8192, (1U << 20) - 1 }, 0.30);
+    addRoiPair<ushort>("1000x1000, 16 bit, random", { FrameKind::Random, 1000, 1000, 65535 }, 0.0);
+    addRoiPair<uint>(
+        "1000x1000, 32 bit, random", { FrameKind::Random, 1000, 1000, 4294967295U }, 0.0);
     const Frame camera8 { FrameKind::Camera, 8192, 8192, 255 };
     const Frame camera16 { FrameKind::Camera, 8192, 8192, 65535 };
     const Frame camera32 { FrameKind::Camera, 4096, 4096, (1 << 20) - 1 };

@@ -64,6 +64,26 @@ void grayInPlace(Sample* samples, qint64 pixelCount)
     }
 }
 
+template <class Sample>
+quint64 distanceSum(const Sample* samples, qint64 count, uint min)
+{
+    quint64 sum = 0;
+    for (qint64 i = 0; i < count; ++i) {
+        sum += uint(samples[i]) - min;
+    }
+    return sum;
+}
+
+template <class Sample>
+double addSquares(const Sample* samples, qint64 count, double mean, double sum)
+{
+    for (qint64 i = 0; i < count; ++i) {
+        const double distance = samples[i] - mean;
+        sum += distance * distance;
+    }
+    return sum;
+}
+
 std::unique_ptr<uchar[]> rawPixels(const QString& path, qint64 byteCount)
 {
     QFile file(path);
@@ -80,6 +100,12 @@ std::unique_ptr<uchar[]> rawPixels(const QString& path, qint64 byteCount)
 template Range range(const uchar*, qint64);
 template Range range(const ushort*, qint64);
 template Range range(const uint*, qint64);
+template quint64 distanceSum(const uchar*, qint64, uint);
+template quint64 distanceSum(const ushort*, qint64, uint);
+template quint64 distanceSum(const uint*, qint64, uint);
+template double addSquares(const uchar*, qint64, double, double);
+template double addSquares(const ushort*, qint64, double, double);
+template double addSquares(const uint*, qint64, double, double);
 template void histogram(const uchar*, qint64, uint, uint*, uint);
 template void histogram(const ushort*, qint64, uint, uint*, uint);
 template void histogram(const uint*, qint64, uint, uint*, uint);

@@ -42,6 +42,14 @@ void convertToRgb(const Sample* samples, qint64 count, uint min, const uchar* ma
 template <class Sample>
 void grayInPlace(Sample* samples, qint64 pixelCount);
 
+/// Sum of the distances from `min`, over `count` samples.
+template <class Sample>
+quint64 distanceSum(const Sample* samples, qint64 count, uint min);
+
+/// Sum of the squared distances from `mean`, added to `sum` one after the other.
+template <class Sample>
+double addSquares(const Sample* samples, qint64 count, double mean, double sum);
+
 /// New memory, zeroed, then `byteCount` bytes of the file from offset 1024 on; null when the file
 /// cannot be opened.
 std::unique_ptr<uchar[]> rawPixels(const QString& path, qint64 byteCount);

@@ -202,9 +202,26 @@ void HistogramData::calcRoiHistogram(uint newMin, uint newMax, const QRect& roi)
         m_roiMemory.zeroFrom(0);
         m_roiMemory.markWritten(m_roiMemory.size());
         const RoiRows rows { roi, image->width, allocatedSamples<Sample>(*image) };
-        rows.forEach([&](qint64 first, qint64 count) {
-            addSampleCounts(samples + first, count, roiMin, roiHistogram, roiSize);
-        });
+        fillRoiHistogram(samples, rows);
+    });
+}
+
+/// Counts many small samples as whole values first; the region's bins start at 0.
+template <class Sample>
+void HistogramData::fillRoiHistogram(const Sample* samples, const RoiRows& rows)
+{
+    if constexpr (sizeof(Sample) < sizeof(uint)) {
+        const ValueCounts<Sample> counts(samples, rows);
+        if (counts.isComplete()) {
+            // The range may come from another image, with values that these samples cannot have.
+            const uint first = std::min(roiMin, counts.valueCount);
+            std::copy_n(
+                counts.from(first), std::min(roiSize, counts.valueCount - first), roiHistogram);
+            return;
+        }
+    }
+    rows.forEach([&](qint64 first, qint64 count) {
+        addSampleCounts(samples + first, count, roiMin, roiHistogram, roiSize);
     });
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/displaylevels.h"
+#include "analysis/roirows.h"
 #include "analysis/samplecounts.h"
 #include "image/pixelmemory.h"
 
@@ -95,6 +96,8 @@ private:
     template <class Sample>
     void rebuildCounts(const Sample* samples, int count);
     void rebuildCounts(const uint* samples, int count);
+    template <class Sample>
+    void fillRoiHistogram(const Sample* samples, const RoiRows& rows);
     void adoptRange(const SampleRange& range);
     void clearHistogram();
     void takeCounts(const uint* counts);

@@ -212,11 +212,11 @@ void ImageIntensityAnalysis::computeRoiStatistics(const QRect& roi)
     forSampleWidth(std::as_const(*image), [&](const auto* samples) {
         const RoiRows rows { roi, image->width,
             qint64(image->allocatedBytes() / sizeof(*samples)) };
-        const SampleRange range = roiRange(samples, rows);
-        roiInfo.min = range.min;
-        roiInfo.max = range.max;
-        roiInfo.mean = roiMean(samples, rows, roiInfo.min);
-        roiInfo.standardDeviation = roiDeviation(samples, rows, roiInfo.mean);
+        const RoiTotals totals = roiTotals(samples, rows);
+        roiInfo.min = totals.range.min;
+        roiInfo.max = totals.range.max;
+        roiInfo.mean = roiMean(totals, rows);
+        roiInfo.standardDeviation = roiDeviation(samples, rows, totals.range, roiInfo.mean);
         // Deliberate: with a deviation of 0, or none, the last region's ratio stays.
         if (roiInfo.standardDeviation > 0.0) {
             roiInfo.signalToNoise = roiInfo.mean / roiInfo.standardDeviation;

@@ -7,15 +7,22 @@
 /// Samples outside the allocation are left out of the sums, while the division is by rows x columns
 /// as the corners give them: a region without pixels has a mean and a deviation that are no number.
 
-/// Smallest and largest value; turned round (the largest value of the sample type and 0) when there
-/// is no sample.
-template <class Sample>
-SampleRange roiRange(const Sample* samples, const RoiRows& rows);
+/// What one pass over a region finds.
+struct RoiTotals
+{
+    SampleRange range; ///< turned round (the type's largest value and 0) when there is no sample
+    quint64 sum = 0; ///< of all samples
+    qint64 sampleCount = 0; ///< those inside the allocation
+};
 
-/// Mean value. `min` is a value no larger than any sample: it is subtracted before summing.
 template <class Sample>
-double roiMean(const Sample* samples, const RoiRows& rows, uint min);
+RoiTotals roiTotals(const Sample* samples, const RoiRows& rows);
 
-/// Square root of the mean squared distance from `mean`, summed row by row.
+/// Mean value: that of the distances from the smallest sample, plus that sample.
+double roiMean(const RoiTotals& totals, const RoiRows& rows);
+
+/// Square root of the mean squared distance from `mean`, with the bits of one sum over all squares
+/// from the first sample to the last, row by row. `range` is that of the samples.
 template <class Sample>
-double roiDeviation(const Sample* samples, const RoiRows& rows, double mean);
+double roiDeviation(
+    const Sample* samples, const RoiRows& rows, const SampleRange& range, double mean);

@@ -2,7 +2,9 @@
 
 #include "image/prefetch.h"
 
+#include <algorithm>
 #include <cstring>
+#include <functional>
 
 namespace {
 
@@ -81,17 +83,49 @@ void splitPairs(uint* counts)
 template <class Sample>
 ValueCounts<Sample>::ValueCounts(const Sample* samples, qint64 count)
 {
-    if (count < fewestSamples || !m_tables.acquire(tableCount * tableStride * sizeof(uint))) {
-        return;
+    if (takeTables(count)) {
+        add(samples, count);
+        finish();
     }
+}
+
+template <class Sample>
+ValueCounts<Sample>::ValueCounts(const Sample* samples, const RoiRows& rows)
+{
+    qint64 sampleCount = 0;
+    rows.forEach([&](qint64, qint64 count) { sampleCount += count; });
+    if (takeTables(sampleCount)) {
+        rows.forEach([&](qint64 first, qint64 count) { add(samples + first, count); });
+        finish();
+    }
+}
+
+template <class Sample>
+bool ValueCounts<Sample>::takeTables(qint64 sampleCount)
+{
+    return sampleCount >= fewestSamples
+        && m_tables.acquire(tableCount * tableStride * sizeof(uint));
+}
+
+template <class Sample>
+void ValueCounts<Sample>::add(const Sample* samples, qint64 count)
+{
     const auto* bytes = reinterpret_cast<const uchar*>(samples);
     countWords(bytes, count * qint64(sizeof(Sample)) / 2, counts());
+    if constexpr (sizeof(Sample) == 1) {
+        if (count % 2 != 0) {
+            ++m_singles[samples[count - 1]];
+        }
+    }
+}
+
+template <class Sample>
+void ValueCounts<Sample>::finish()
+{
     addTables(counts());
     if constexpr (sizeof(Sample) == 1) {
         splitPairs(counts());
-        if (count % 2 != 0) {
-            ++counts()[samples[count - 1]];
-        }
+        std::transform(m_singles, m_singles + 256, counts(), counts(), std::plus<uint>());
     }
 }
 
@@ -102,7 +136,7 @@ SampleRange ValueCounts<Sample>::range() const
     while (counts()[min] == 0) {
         ++min;
     }
-    uint max = (1u << 8 * sizeof(Sample)) - 1;
+    uint max = valueCount - 1;
     while (counts()[max] == 0) {
         --max;
     }
