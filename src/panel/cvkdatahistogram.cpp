@@ -9,22 +9,27 @@
 
 #include <algorithm>
 #include <limits>
-#include <new>
 
 namespace {
 
-constexpr qint64 maxCounts = qint64(1) << 26;
-constexpr int rangePixelSize = 11; // of the texts under the frame
-const QColor lineColor(40, 128, 140);
+constexpr qint64 maxCounts = 1 << 26;
+const QColor curveColor(40, 128, 140);
+
+/// Pixels between two inclusive corners. Limited to 32 bits, so that a product fits 64.
+qint64 extent(int first, int last)
+{
+    constexpr qint64 limit = qint64(1) << 31;
+    return std::clamp(qint64(last) - first + 1, -limit, limit);
+}
 
 } // namespace
 
 CVKDataHistogram::CVKDataHistogram(QWidget* parent)
     : QWidget(parent)
-    , m_ui(new Ui::CVKDataHistogram)
+    , m_form(new Ui::CVKDataHistogram)
 {
-    m_ui->setupUi(this);
-    setLayout(m_ui->verticalLayout);
+    m_form->setupUi(this);
+    setLayout(m_form->verticalLayout);
     setAttribute(Qt::WA_DeleteOnClose, true);
     resetRoiList();
 }
@@ -33,24 +38,30 @@ CVKDataHistogram::~CVKDataHistogram() = default;
 
 void CVKDataHistogram::resetRoiList()
 {
-    m_ui->comboBoxRoi->clear();
-    m_ui->comboBoxRoi->addItem(tr("None Select"));
+    fillRoiList({});
     clearValues();
+}
+
+void CVKDataHistogram::fillRoiList(const QStringList& names)
+{
+    m_form->comboBoxRoi->clear();
+    m_form->comboBoxRoi->addItem(tr("None Select"));
+    m_form->comboBoxRoi->addItems(names);
 }
 
 void CVKDataHistogram::clearValues()
 {
-    for (QLabel* const label : { m_ui->labelValueX, m_ui->labelValueY, m_ui->labelValueCounts,
-             m_ui->labelValueMean, m_ui->labelValueMin, m_ui->labelValueMax,
-             m_ui->labelValueStandard, m_ui->labelValueNoise }) {
-        label->setText(QString());
+    for (QLabel* const value : { m_form->labelValueX, m_form->labelValueY, m_form->labelValueCounts,
+             m_form->labelValueMean, m_form->labelValueMin, m_form->labelValueMax,
+             m_form->labelValueStandard, m_form->labelValueNoise }) {
+        value->clear();
     }
     setDeleteEnabled(false);
 }
 
 void CVKDataHistogram::setDeleteEnabled(bool enabled)
 {
-    setControlEnabled(m_ui->pushButtonDelete, enabled, styleSheet());
+    setControlEnabled(m_form->pushButtonDelete, enabled, styleSheet());
 }
 
 void CVKDataHistogram::onShrinkaged(bool shrinkaged)
@@ -64,22 +75,8 @@ void CVKDataHistogram::updateItemNames(QStringList itemNames)
         resetRoiList();
         return;
     }
-    m_ui->comboBoxRoi->clear();
-    m_ui->comboBoxRoi->addItem(tr("None Select"));
-    m_ui->comboBoxRoi->addItems(itemNames);
-    setDeleteEnabled(true);
-}
-
-void CVKDataHistogram::on_comboBoxRoi_currentIndexChanged(int index)
-{
-    if (index == 0) {
-        clearValues();
-        Q_EMIT updateIntensityHistogram();
-        return;
-    }
-    // Deliberate: -1, which an emptied list reports, counts as a region, too, and sends -2.
-    setDeleteEnabled(true);
-    Q_EMIT selectRoiItem(index - 1);
+    fillRoiList(itemNames);
+    setDeleteEnabled(true); // Deliberate: although "None Select" is selected
 }
 
 void CVKDataHistogram::on_pushButtonAdd_clicked()
@@ -89,120 +86,137 @@ void CVKDataHistogram::on_pushButtonAdd_clicked()
 
 void CVKDataHistogram::on_pushButtonDelete_clicked()
 {
-    const int index = m_ui->comboBoxRoi->currentIndex();
+    const int index = m_form->comboBoxRoi->currentIndex();
     if (index >= 1) {
         Q_EMIT deleteRoiItem(index - 1);
     }
 }
 
-void CVKDataHistogram::updateRoiIntensityInfo(int selected, IntensityInfo info)
+void CVKDataHistogram::on_comboBoxRoi_currentIndexChanged(int index)
 {
-    // Past the last int there is no row; Qt makes -1 of any row that does not exist.
-    const int row = selected < std::numeric_limits<int>::max() ? selected + 1 : -1;
-    if (m_ui->comboBoxRoi->currentIndex() != row) {
-        m_ui->comboBoxRoi->setCurrentIndex(row);
+    if (index == 0) {
+        clearValues();
+        Q_EMIT updateIntensityHistogram();
+        return;
     }
-    const qint64 left = info.rect.left();
-    const qint64 top = info.rect.top();
-    const qint64 right = info.rect.right();
-    const qint64 bottom = info.rect.bottom();
-    const qint64 lastRow = qint64(info.imageHeight) - 1;
-    m_ui->labelValueX->setText(QString::number(left) + " to " + QString::number(right));
-    // Rows are counted from the bottom of the image.
-    m_ui->labelValueY->setText(
-        QString::number(lastRow - bottom) + " to " + QString::number(lastRow - top));
-    m_ui->labelValueCounts->setText(QString::number((bottom - top + 1) * (right - left + 1)));
-    m_ui->labelValueMean->setText(QString::number(info.mean, 'f', 2));
-    m_ui->labelValueMin->setText(QString::number(info.min));
-    m_ui->labelValueMax->setText(QString::number(info.max));
-    m_ui->labelValueStandard->setText(QString::number(info.standardDeviation, 'f', 3));
-    m_ui->labelValueNoise->setText(QString::number(info.signalToNoise, 'f', 5));
+    // Deliberate: -1, which a combo box reports when it is emptied, counts as a region too, so that
+    // Delete is enabled and -2 sent before "None Select" is back.
+    setDeleteEnabled(true);
+    Q_EMIT selectRoiItem(index - 1);
 }
 
-/// Makes room for `count` counts, 0 at first. Without memory for them there is no histogram.
-bool CVKDataHistogram::resizeCounts(int count)
+void CVKDataHistogram::updateRoiIntensityInfo(int selected, IntensityInfo info)
 {
-    if (count > m_capacity || !m_counts) {
-        m_counts.reset(); // first, so that both need not fit
-        m_counts.reset(new (std::nothrow) uint[size_t(count)]());
-        m_capacity = m_counts ? count : 0;
+    const qint64 row = qint64(selected) + 1;
+    if (m_form->comboBoxRoi->currentIndex() != row) {
+        // Deliberate: this sends selectRoiItem(selected) back to the sender.
+        m_form->comboBoxRoi->setCurrentIndex(row > std::numeric_limits<int>::max() ? -1 : int(row));
     }
-    m_count = m_counts ? count : 0;
-    return m_count > 0;
+    const QRect& rect = info.rect;
+    const qint64 bottomRow = qint64(info.imageHeight) - 1; // y is counted from here upward
+    m_form->labelValueX->setText(tr("%1 to %2").arg(rect.left()).arg(rect.right()));
+    m_form->labelValueY->setText(
+        tr("%1 to %2").arg(bottomRow - rect.bottom()).arg(bottomRow - rect.top()));
+    m_form->labelValueCounts->setText(
+        QString::number(extent(rect.top(), rect.bottom()) * extent(rect.left(), rect.right())));
+    m_form->labelValueMean->setText(QString::number(info.mean, 'f', 2));
+    m_form->labelValueMin->setText(QString::number(info.min));
+    m_form->labelValueMax->setText(QString::number(info.max));
+    m_form->labelValueStandard->setText(QString::number(info.standardDeviation, 'f', 3));
+    m_form->labelValueNoise->setText(QString::number(info.signalToNoise, 'f', 5));
+}
+
+/// Replaces the counts by `capacity` zeros. False, and no counts, when there is no memory.
+bool CVKDataHistogram::allocateCounts(qint64 capacity)
+{
+    m_counts.reset(); // first, so that there are never two
+    m_counts.reset(static_cast<uint*>(std::calloc(size_t(capacity), sizeof(uint))));
+    if (!m_counts) {
+        dropCounts();
+        return false;
+    }
+    m_capacity = capacity;
+    return true;
+}
+
+void CVKDataHistogram::dropCounts()
+{
+    m_counts.reset();
+    m_capacity = 0;
+    m_size = 0;
+    m_countRange = CountRange();
+    m_minimum = 0;
+    m_maximum = 0;
+    m_lines.clear();
 }
 
 void CVKDataHistogram::newHistogramSize(int size)
 {
     if (size < 1 || size > maxCounts) {
-        m_counts.reset();
-        m_capacity = 0;
-        m_count = 0;
-        m_minimum = 0;
-        m_maximum = 0;
-        m_lines.clear();
+        dropCounts(); // the curve of the last image does not stay under a new one
         return;
     }
-    if (size != m_count && resizeCounts(size)) {
-        std::fill_n(m_counts.get(), size, 0U);
+    if (size != m_size && allocateCounts(size)) {
+        m_size = size;
         m_countRange = CountRange();
     }
 }
 
 void CVKDataHistogram::updateRoiIntensityHistogram(uint* counts, int maxSize, uint min, uint max)
 {
-    const qint64 count = qint64(max) - min + 1;
-    if (!counts || count < 1 || count > maxCounts) {
+    const qint64 size = qint64(max) - min + 1;
+    if (!counts || size < 1 || size > maxCounts) {
         return;
     }
-    const qint64 announced = std::clamp<qint64>(maxSize, 0, maxCounts);
-    if (!resizeCounts(int(std::max(announced, count)))) {
+    // A region left over from another image can have more values than are announced.
+    const qint64 capacity = std::max(size, std::min(qint64(maxSize), maxCounts));
+    if (m_capacity < capacity && !allocateCounts(capacity)) {
         return;
     }
+    std::copy_n(counts, size, m_counts.get());
+    m_size = int(size);
+    m_countRange = countRange(m_counts.get(), m_size);
     m_minimum = min;
     m_maximum = max;
-    m_count = int(count);
-    std::copy_n(counts, count, m_counts.get());
-    m_countRange = countRange(m_counts.get(), count);
     update();
 }
 
-/// Where the form keeps room for the histogram, in the panel's coordinates.
-QRect CVKDataHistogram::histogramArea() const
+/// The frame in pixels of the panel.
+QRect CVKDataHistogram::histogramFrame() const
 {
-    return m_ui->widgetHistogram->geometry().translated(m_ui->groupBoxHistogram->pos());
+    const QRect area = m_form->widgetHistogram->geometry();
+    return QRect(m_form->groupBoxHistogram->pos() + area.topLeft() + QPoint(12, 8),
+        area.size() - QSize(24, 23));
+}
+
+void CVKDataHistogram::drawMinimumAndMaximum(QPainter& painter, const QRect& frame) const
+{
+    QFont font = painter.font();
+    font.setPixelSize(11);
+    painter.setFont(font);
+    const QFontMetricsF metrics(font);
+    const QRect group = m_form->groupBoxHistogram->geometry();
+    const QString minimum = QString::number(m_minimum);
+    const QString maximum = QString::number(m_maximum);
+    painter.drawText(
+        minimumTextPlace(frame, group.left(), metrics.horizontalAdvance(minimum), metrics.height()),
+        minimum);
+    painter.drawText(maximumTextPlace(frame, group.right(), metrics.horizontalAdvance(maximum),
+                         metrics.height()),
+        maximum);
 }
 
 void CVKDataHistogram::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     paintModuleBackground(&painter, width(), height());
-    QPen pen(Qt::white);
-    pen.setWidth(1);
-    painter.setPen(pen);
-    const QRect frame = histogramFrame(histogramArea());
+    const QRect frame = histogramFrame();
+    painter.setPen(QPen(Qt::white, 1));
     painter.drawRect(frame);
-    if (m_counts && m_count > 0) {
-        m_lines = histogramPolyline(m_counts.get(), m_count, m_countRange, frame);
+    if (m_size > 0) {
+        buildHistogramPolyline(m_lines, m_counts.get(), m_size, m_countRange, frame);
     }
-    drawRange(&painter, frame);
-    pen.setColor(lineColor);
-    painter.setPen(pen);
+    drawMinimumAndMaximum(painter, frame);
+    painter.setPen(QPen(curveColor, 1));
     painter.drawLines(m_lines);
-}
-
-/// Writes the values of the first and the last bin under the ends of the frame.
-void CVKDataHistogram::drawRange(QPainter* painter, const QRect& frame)
-{
-    QFont font = painter->font();
-    font.setPixelSize(rangePixelSize);
-    painter->setFont(font);
-    const QFontMetricsF metrics(font);
-    const QRect group = m_ui->groupBoxHistogram->geometry();
-    const QString minimum = QString::number(m_minimum);
-    const QString maximum = QString::number(m_maximum);
-    const auto sizeOf = [&](const QString& text) {
-        return QSizeF(metrics.horizontalAdvance(text), metrics.height());
-    };
-    painter->drawText(minimumTextOrigin(frame, group.left(), sizeOf(minimum)), minimum);
-    painter->drawText(maximumTextOrigin(frame, group.right(), sizeOf(maximum)), maximum);
 }

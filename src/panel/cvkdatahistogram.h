@@ -3,72 +3,84 @@
 #include "analysis/intensityinfo.h"
 #include "panel/histogrampolyline.h"
 
+#include <QLineF>
+#include <QStringList>
+#include <QVector>
 #include <QWidget>
 
+#include <cstdlib>
 #include <memory>
 
-QT_BEGIN_NAMESPACE
+class QPainter;
+
 namespace Ui {
 class CVKDataHistogram;
 }
-QT_END_NAMESPACE
 
-/// The module that shows the histogram of the image or of the selected region of interest, the list
-/// of regions and the statistics of the selected one. All of it arrives through slots; what the
-/// user wants leaves as signals.
+/// Module of the control panel that draws the histogram of the whole image or of the selected
+/// region of interest, lists the regions, and shows the statistics of the selected one. It copies
+/// what its slots are handed and computes nothing but the drawing.
 class CVKDataHistogram : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Deletes itself when closed (Qt::WA_DeleteOnClose).
     explicit CVKDataHistogram(QWidget* parent = nullptr);
     ~CVKDataHistogram() override;
 
-    /// An empty list of regions, and no statistics.
+    /// Leaves "None Select" as the only entry and clears the statistics. Sends what a combo box
+    /// sends that is emptied and filled: selectRoiItem(-2), then updateIntensityHistogram().
     void resetRoiList();
 
 Q_SIGNALS:
     void addRoiItem();
     void deleteRoiItem(int index);
-    /// The list has moved to a region, or to -2 while it is refilled.
+    /// -2 while the list is being filled anew.
     void selectRoiItem(int index);
-    /// The list has moved to "None Select": the histogram of the whole image is wanted.
+    /// Asks for the histogram of the whole image.
     void updateIntensityHistogram();
 
 public Q_SLOTS:
     void onShrinkaged(bool shrinkaged);
     void updateItemNames(QStringList itemNames);
-    /// Bins of the image that is about to come. A number that is no possible one (below 1, above
-    /// 2^26) removes the histogram.
+    /// Makes room for `size` counts, all 0, unless as many are there. No counts at all, and an
+    /// empty curve, for a size below 1 or above 2^26.
     void newHistogramSize(int size);
-    /// Shows the statistics and moves the list to the region, which selects it once more.
+    /// Shows the statistics of region `selected`, selecting it first if it is not.
     void updateRoiIntensityInfo(int selected, IntensityInfo info);
-    /// Copies max - min + 1 counts from `data`, whatever `maxSize` announces. Null data, a range
-    /// turned round or of more than 2^26 values: nothing changes.
+    /// Copies the counts of the values `min` to `max`. Nothing changes without data, for a range
+    /// that is turned round and for one of more than 2^26 values; `maxSize` is the length to make
+    /// room for and may be too small.
     void updateRoiIntensityHistogram(uint* data, int maxSize, uint min, uint max);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
-private Q_SLOTS:
+private Q_SLOTS: // connected by name
     void on_pushButtonAdd_clicked();
     void on_pushButtonDelete_clicked();
     void on_comboBoxRoi_currentIndexChanged(int index);
 
 private:
-    bool resizeCounts(int count);
+    struct Free
+    {
+        void operator()(uint* counts) const { std::free(counts); }
+    };
+
+    bool allocateCounts(qint64 capacity);
+    void dropCounts();
+    void fillRoiList(const QStringList& names);
     void clearValues();
     void setDeleteEnabled(bool enabled);
-    QRect histogramArea() const;
-    void drawRange(QPainter* painter, const QRect& frame);
+    QRect histogramFrame() const;
+    void drawMinimumAndMaximum(QPainter& painter, const QRect& frame) const;
 
-    std::unique_ptr<uint[]> m_counts;
-    int m_capacity = 0; ///< of m_counts
-    int m_count = 0; ///< valid counts
-    uint m_maximum = 0; ///< value of the last bin
-    uint m_minimum = 0; ///< value of the first bin
-    CountRange m_countRange;
-    QVector<QLineF> m_lines; ///< as last painted
-    std::unique_ptr<Ui::CVKDataHistogram> m_ui;
+    std::unique_ptr<Ui::CVKDataHistogram> m_form;
+    std::unique_ptr<uint[], Free> m_counts;
+    qint64 m_capacity = 0; ///< counts that there is room for
+    int m_size = 0; ///< counts that are valid
+    CountRange m_countRange; ///< of the valid counts
+    uint m_minimum = 0; ///< value of the first count
+    uint m_maximum = 0; ///< value of the last count
+    QVector<QLineF> m_lines; ///< rebuilt by every paint that has counts
 };

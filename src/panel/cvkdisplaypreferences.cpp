@@ -7,61 +7,50 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QEvent>
 #include <QIntValidator>
 #include <QPainter>
+#include <QPointer>
 
 namespace {
 
+constexpr int wavelengthType = 1; // index in the axis type names
 constexpr int grayPalette = 0;
-constexpr int grayLevels = 256;
-constexpr int wavelengthType = 1; // index in the list of axis types
 
-/// Files of the palettes under the application's directory, in the order of the buttons; the grey
-/// one is built here. Deliberate: the separators are mixed; the reader understands both.
-constexpr std::array<const char*, 5> paletteFiles { "", "/pal/red.pal", "/pal/green.pal",
-    "\\pal\\blue.pal", "\\pal\\color.pal" };
-
-constexpr std::array<const char*, 5> paletteButtonStyles {
-    "background-color: rgb(128, 128, 128);border: 0px;",
-    "background-color: rgb(255, 0, 0);border: 0px;",
-    "background-color: rgb(0, 255, 0);border: 0px;",
-    "background-color: rgb(0, 0, 255);border: 0px;",
-    "background-color: qlineargradient(spread:pad, x1:0, y1:0, x2:1, y2:0, "
-    "stop:0 rgba(0, 0, 0, 255), stop:0.2 rgba(0, 0, 255, 255), stop:0.4 rgba(0, 153, 0, 255), "
-    "stop:0.6 rgba(255, 0, 0, 255), stop:0.8 rgba(255, 255, 0, 255), "
-    "stop:1 rgba(255, 255, 255, 255));\nborder: 0px;"
-};
-
-/// The palette buttons in the order of the palettes.
-std::array<QPushButton*, 5> paletteButtons(const Ui::CVKDisplayPreferences& ui)
+QVector<QColor> grayLevels()
 {
-    return { ui.pushButtonGray, ui.pushButtonRed, ui.pushButtonGreen, ui.pushButtonBlue,
-        ui.pushButtonColor };
+    QVector<QColor> colors;
+    colors.reserve(256);
+    for (int level = 0; level < 256; ++level) {
+        colors.append(QColor(level, level, level));
+    }
+    return colors;
 }
 
-/// Nothing may send 0: the field goes back to "1" while the user edits.
-void keepAboveZero(QLineEdit* field, const QString& text)
+/// File of palette `index` >= 1, below the directory of the application.
+QString paletteFileName(int index)
 {
-    if (text.toInt() == 0) {
-        field->setText(QStringLiteral("1"));
-    }
+    // Deliberate: two files are named with slashes and two with backslashes.
+    static const char* const names[]
+        = { "/pal/red.pal", "/pal/green.pal", "\\pal\\blue.pal", "\\pal\\color.pal" };
+    return QString::fromLatin1(names[index - 1]);
 }
 
 } // namespace
 
 CVKDisplayPreferences::CVKDisplayPreferences(QWidget* parent)
     : QWidget(parent)
-    , m_ui(new Ui::CVKDisplayPreferences)
+    , m_form(new Ui::CVKDisplayPreferences)
 {
+    // Palettes travel through connections made by signature.
     qRegisterMetaType<QVector<QColor>>("QVector<QColor>");
-    m_ui->setupUi(this);
-    setLayout(m_ui->verticalLayout);
+    m_form->setupUi(this);
+    setLayout(m_form->verticalLayout);
     setAttribute(Qt::WA_DeleteOnClose, true);
     m_applicationDirectory = QDir(QCoreApplication::applicationDirPath()).path();
     attachValidators();
     fillComboBoxes();
-    stylePaletteButtons();
-    fillPalette(grayPalette);
+    m_palettes[grayPalette] = grayLevels();
     resetDefaults();
 }
 
@@ -69,50 +58,66 @@ CVKDisplayPreferences::~CVKDisplayPreferences() = default;
 
 void CVKDisplayPreferences::attachValidators()
 {
-    m_ui->lineEditPeaks->setValidator(new QIntValidator(1, 200, this));
-    m_ui->lineEditXStart->setValidator(new QIntValidator(0, 2000, this));
-    m_ui->lineEditPixelWidth->setValidator(new QIntValidator(1, 100, this));
+    m_form->lineEditPeaks->setValidator(new QIntValidator(1, 200, this));
+    m_form->lineEditXStart->setValidator(new QIntValidator(0, 2000, this));
+    m_form->lineEditPixelWidth->setValidator(new QIntValidator(1, 100, this));
 }
 
 void CVKDisplayPreferences::fillComboBoxes()
 {
-    m_ui->comboBoxDisplay->clear();
-    m_ui->comboBoxDisplay->addItems({ tr("X-Axis"), tr("Y-Axis") });
-    m_axisTypeNames = QStringList { tr("Pixels Number"), tr("Wavelength") };
-    m_ui->comboBoxType->clear();
-    m_ui->comboBoxType->addItems(m_axisTypeNames);
+    m_form->comboBoxDisplay->clear();
+    m_form->comboBoxDisplay->addItems({ tr("X-Axis"), tr("Y-Axis") });
+    m_typeNames = QStringList { tr("Pixels Number"), tr("Wavelength") };
+    m_form->comboBoxType->clear();
+    m_form->comboBoxType->addItems(m_typeNames);
     m_unitNames = QStringList { tr("um"), tr("nm") };
-    m_ui->comboBoxUnits->clear();
-    m_ui->comboBoxUnits->addItems(m_unitNames);
-}
-
-void CVKDisplayPreferences::stylePaletteButtons()
-{
-    const auto buttons = paletteButtons(*m_ui);
-    for (size_t i = 0; i < buttons.size(); ++i) {
-        buttons[i]->setFixedSize(30, 30);
-        buttons[i]->setStyleSheet(QLatin1String(paletteButtonStyles[i]));
-    }
+    m_form->comboBoxUnits->clear();
+    m_form->comboBoxUnits->addItems(m_unitNames);
 }
 
 void CVKDisplayPreferences::resetDefaults()
 {
+    const QPointer<CVKDisplayPreferences> self(this);
     Q_EMIT switchDisplayType(0);
-    Q_EMIT changePalette(m_palettes[grayPalette]);
-    m_ui->radioButton2D->setChecked(false);
-    m_ui->radioButtonImage->setChecked(true);
-    m_ui->lineEditPeaks->setText(QStringLiteral("10"));
-    m_ui->checkBoxPeak->setChecked(false);
-    m_ui->lineEditXStart->setText(QStringLiteral("100"));
-    m_ui->lineEditPixelWidth->setText(QStringLiteral("1"));
-    m_ui->comboBoxType->setCurrentIndex(0);
-    // Deliberate: coming back from the second unit announces the wavelength title last, although
-    // the axis shows pixel numbers.
-    m_ui->comboBoxUnits->setCurrentIndex(0);
-    m_ui->comboBoxDisplay->setCurrentIndex(0);
+    if (self) { // a receiver may have deleted the panel
+        Q_EMIT changePalette(m_palettes[grayPalette]);
+    }
+    if (!self) {
+        return;
+    }
+    m_form->radioButton2D->setChecked(false);
+    m_form->radioButtonImage->setChecked(true);
+    m_form->lineEditPeaks->setText(QStringLiteral("10"));
+    m_form->checkBoxPeak->setChecked(false); // Deliberate: without announcing it, nor the number
+    m_form->lineEditXStart->setText(QStringLiteral("100"));
+    m_form->lineEditPixelWidth->setText(QStringLiteral("1"));
+    // Deliberate: with nm chosen the unit goes back after the type, and its change is announced
+    // with the wavelength title, which so comes last although the type is pixels.
+    m_form->comboBoxType->setCurrentIndex(0);
+    m_form->comboBoxUnits->setCurrentIndex(0);
+    m_form->comboBoxDisplay->setCurrentIndex(0);
     selectPalette(grayPalette);
     setPeakGroupEnabled(false);
     setUnitRowEnabled(false);
+}
+
+void CVKDisplayPreferences::setPeakGroupEnabled(bool enabled)
+{
+    const std::array<QWidget*, 4> controls { m_form->labelPeaks, m_form->checkBoxPeak,
+        m_form->lineEditPeaks, m_form->comboBoxDisplay };
+    for (QWidget* const control : controls) {
+        setControlEnabled(control, enabled, styleSheet());
+    }
+}
+
+void CVKDisplayPreferences::setUnitRowEnabled(bool enabled)
+{
+    const std::array<QWidget*, 6> controls { m_form->labelUnits, m_form->comboBoxUnits,
+        m_form->labelXStart, m_form->lineEditXStart, m_form->labelPixelWidth,
+        m_form->lineEditPixelWidth };
+    for (QWidget* const control : controls) {
+        setControlEnabled(control, enabled, styleSheet());
+    }
 }
 
 void CVKDisplayPreferences::onShrinkaged(bool shrinkaged)
@@ -120,39 +125,18 @@ void CVKDisplayPreferences::onShrinkaged(bool shrinkaged)
     setVisible(!shrinkaged);
 }
 
-void CVKDisplayPreferences::setControlsEnabled(const QVector<QWidget*>& controls, bool enabled)
-{
-    for (QWidget* const control : controls) {
-        setControlEnabled(control, enabled, styleSheet());
-    }
-}
-
-void CVKDisplayPreferences::setPeakGroupEnabled(bool enabled)
-{
-    setControlsEnabled(
-        { m_ui->labelPeaks, m_ui->checkBoxPeak, m_ui->lineEditPeaks, m_ui->comboBoxDisplay },
-        enabled);
-}
-
-void CVKDisplayPreferences::setUnitRowEnabled(bool enabled)
-{
-    setControlsEnabled({ m_ui->labelUnits, m_ui->comboBoxUnits, m_ui->labelXStart,
-                           m_ui->lineEditXStart, m_ui->labelPixelWidth, m_ui->lineEditPixelWidth },
-        enabled);
-}
-
 void CVKDisplayPreferences::on_radioButtonImage_clicked(bool checked)
 {
-    m_ui->radioButton2D->setChecked(!checked);
+    m_form->radioButton2D->setChecked(!checked);
     setPeakGroupEnabled(!checked);
-    Q_EMIT switchDisplayType(0);
+    Q_EMIT switchDisplayType(0); // Deliberate: also when the button is not checked
 }
 
 void CVKDisplayPreferences::on_radioButton2D_clicked(bool checked)
 {
-    m_ui->radioButtonImage->setChecked(!checked);
+    m_form->radioButtonImage->setChecked(!checked);
     setPeakGroupEnabled(checked);
-    Q_EMIT switchDisplayType(1);
+    Q_EMIT switchDisplayType(1); // Deliberate: also when the button is not checked
 }
 
 void CVKDisplayPreferences::on_comboBoxDisplay_currentIndexChanged(int index)
@@ -167,9 +151,9 @@ void CVKDisplayPreferences::on_checkBoxPeak_clicked(bool checked)
 
 void CVKDisplayPreferences::on_comboBoxType_currentIndexChanged(int index)
 {
-    Q_EMIT changeHorizontalRulerTitle(axisTitle(index, m_ui->comboBoxUnits->currentIndex()));
+    Q_EMIT changeHorizontalRulerTitle(axisTitle(index, m_form->comboBoxUnits->currentIndex()));
     if (index == wavelengthType) {
-        sendWavelengths();
+        sendWavelength();
     } else {
         Q_EMIT changePixelsToWavelength(-1.0, -1.0);
     }
@@ -178,39 +162,57 @@ void CVKDisplayPreferences::on_comboBoxType_currentIndexChanged(int index)
 
 void CVKDisplayPreferences::on_comboBoxUnits_currentIndexChanged(int index)
 {
-    // Deliberate: the title of the wavelengths, whatever the axis shows.
+    // Deliberate: the title of the wavelength, whatever the axis type is.
     Q_EMIT changeHorizontalRulerTitle(axisTitle(wavelengthType, index));
 }
 
 void CVKDisplayPreferences::on_pushButtonApply_clicked()
 {
-    if (m_ui->comboBoxType->currentIndex() == wavelengthType) {
-        sendWavelengths();
+    const QPointer<CVKDisplayPreferences> self(this);
+    if (m_form->comboBoxType->currentIndex() == wavelengthType) {
+        sendWavelength();
     }
-    if (m_ui->radioButton2D->isChecked()) {
-        Q_EMIT changeMaxPeaksCount(m_ui->lineEditPeaks->text().toInt());
+    if (self && m_form->radioButton2D->isChecked()) {
+        Q_EMIT changeMaxPeaksCount(m_form->lineEditPeaks->text().toInt());
     }
 }
 
-void CVKDisplayPreferences::sendWavelengths()
+void CVKDisplayPreferences::sendWavelength()
 {
     Q_EMIT changePixelsToWavelength(
-        m_ui->lineEditXStart->text().toInt(), m_ui->lineEditPixelWidth->text().toInt());
+        m_form->lineEditXStart->text().toInt(), m_form->lineEditPixelWidth->text().toInt());
 }
 
-void CVKDisplayPreferences::on_lineEditPeaks_textEdited(QString arg1)
+/// "Wavelength  (um)"; the unit belongs to wavelengths only. Empty for an unknown type.
+QString CVKDisplayPreferences::axisTitle(int typeIndex, int unitIndex) const
 {
-    keepAboveZero(m_ui->lineEditPeaks, arg1);
+    if (typeIndex < 0 || typeIndex >= m_typeNames.size()) {
+        return QString();
+    }
+    const QString type = m_typeNames.at(typeIndex);
+    if (typeIndex != wavelengthType || unitIndex < 0 || unitIndex >= m_unitNames.size()) {
+        return type;
+    }
+    return type + QStringLiteral("  (") + m_unitNames.at(unitIndex) + QLatin1Char(')');
 }
 
-void CVKDisplayPreferences::on_lineEditPixelWidth_textEdited(QString arg1)
+void CVKDisplayPreferences::on_lineEditPeaks_textEdited(const QString& arg1)
 {
-    keepAboveZero(m_ui->lineEditPixelWidth, arg1);
+    if (arg1.toInt() == 0) {
+        m_form->lineEditPeaks->setText(QStringLiteral("1"));
+    }
+}
+
+void CVKDisplayPreferences::on_lineEditPixelWidth_textEdited(const QString& arg1)
+{
+    if (arg1.toInt() == 0) {
+        m_form->lineEditPixelWidth->setText(QStringLiteral("1"));
+    }
 }
 
 void CVKDisplayPreferences::on_pushButtonGray_clicked(bool)
 {
-    choosePalette(0);
+    choosePalette(grayPalette);
 }
 
 void CVKDisplayPreferences::on_pushButtonRed_clicked(bool)
@@ -233,67 +235,66 @@ void CVKDisplayPreferences::on_pushButtonColor_clicked(bool)
     choosePalette(4);
 }
 
+std::array<QPushButton*, CVKDisplayPreferences::paletteCount>
+CVKDisplayPreferences::paletteButtons() const
+{
+    return { m_form->pushButtonGray, m_form->pushButtonRed, m_form->pushButtonGreen,
+        m_form->pushButtonBlue, m_form->pushButtonColor };
+}
+
 void CVKDisplayPreferences::choosePalette(int index)
 {
-    if (m_palettes[size_t(index)].isEmpty()) {
-        fillPalette(index);
-    }
-    if (!m_palettes[size_t(index)].isEmpty()) {
-        Q_EMIT changePalette(m_palettes[size_t(index)]);
-    }
-    selectPalette(index); // Deliberate: also when the file could not be read and nothing was sent
-}
-
-void CVKDisplayPreferences::fillPalette(int index)
-{
     QVector<QColor>& palette = m_palettes[size_t(index)];
-    if (index != grayPalette) {
-        readPaletteFile(
-            m_applicationDirectory + QLatin1String(paletteFiles[size_t(index)]), &palette);
-        return;
+    if (palette.isEmpty()) { // never so for Gray
+        readPaletteFile(paletteFilePath(m_applicationDirectory, paletteFileName(index)), palette);
     }
-    for (int level = 0; level < grayLevels; ++level) {
-        palette.append(QColor(level, level, level));
+    const QPointer<CVKDisplayPreferences> self(this);
+    if (!palette.isEmpty()) {
+        Q_EMIT changePalette(palette);
+    }
+    if (self) {
+        selectPalette(index); // Deliberate: also when the file could not be read
     }
 }
 
-/// Shows `index` as the chosen palette.
 void CVKDisplayPreferences::selectPalette(int index)
 {
-    const auto buttons = paletteButtons(*m_ui);
+    const auto buttons = paletteButtons();
     for (size_t i = 0; i < buttons.size(); ++i) {
-        buttons[i]->setChecked(int(i) == index);
+        buttons[i]->setChecked(i == size_t(index));
     }
     m_currentPalette = index;
-    m_ui->groupBoxPalette->update(); // and what is painted behind it, the frame
+    m_form->groupBoxPalette->repaint();
 }
 
-/// "Wavelength  (nm)", with two spaces, or the name of the axis type alone.
-QString CVKDisplayPreferences::axisTitle(int typeIndex, int unitIndex) const
+/// One pixel around the button of the current palette, in pixels of the panel.
+QRect CVKDisplayPreferences::selectionFrame() const
 {
-    QString title = m_axisTypeNames.value(typeIndex);
-    if (typeIndex == wavelengthType && unitIndex >= 0 && unitIndex < m_unitNames.size()) {
-        title += QStringLiteral("  (") + m_unitNames.at(unitIndex) + QStringLiteral(")");
-    }
-    return title;
+    const QRect button = paletteButtons()[size_t(m_currentPalette)]->geometry();
+    return QRect(m_form->groupBoxPalette->pos() + button.topLeft() - QPoint(1, 1),
+        button.size() + QSize(1, 1));
 }
 
 void CVKDisplayPreferences::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     paintModuleBackground(&painter, width(), height());
-    // Deliberate: drawn in the panel's own foreground colour, not in white.
-    const QRect button = paletteButtons(*m_ui)[size_t(m_currentPalette)]->geometry();
-    painter.drawRect(button.translated(m_ui->groupBoxPalette->pos()).adjusted(-1, -1, 0, 0));
+    painter.drawRect(selectionFrame()); // Deliberate: in the panel's text colour, not in white
 }
 
+/// Redirects the wheel to this panel, so that a control on which the application installs this
+/// filter is not changed by scrolling over it.
 bool CVKDisplayPreferences::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() != QEvent::Wheel || watched == this || m_redirectingWheel) {
+    // A handler of the panel's may send the wheel back to what is watched.
+    if (event->type() != QEvent::Wheel || watched == this || m_isRedirectingWheel) {
         return QWidget::eventFilter(watched, event);
     }
-    m_redirectingWheel = true; // the panel may hand it to a parent that filters, too
-    const bool isHandled = QCoreApplication::sendEvent(this, event); // no longer spontaneous
-    m_redirectingWheel = false;
+    const QPointer<CVKDisplayPreferences> self(this);
+    m_isRedirectingWheel = true;
+    const bool isHandled = QCoreApplication::sendEvent(this, event); // marks it not spontaneous
+    if (self) {
+        m_isRedirectingWheel = false;
+    }
     return isHandled;
 }

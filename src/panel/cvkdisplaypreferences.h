@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QString>
 #include <QStringList>
 #include <QVector>
 #include <QWidget>
@@ -8,41 +9,38 @@
 #include <array>
 #include <memory>
 
-QT_BEGIN_NAMESPACE
+class QPushButton;
+
 namespace Ui {
 class CVKDisplayPreferences;
 }
-QT_END_NAMESPACE
 
-/// The module with which the user chooses between image and 2D chart, the chart's axis and peak
-/// labels, the palette, and the unit of the horizontal axis. Announces every choice and does
-/// nothing with it itself.
+/// Module of the control panel in which the user chooses view, axis, peak labels, palette and axis
+/// units. It only announces the choices. Palettes other than Gray are read from files beside the
+/// application when they are first chosen, and kept.
 class CVKDisplayPreferences : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Deletes itself when closed (Qt::WA_DeleteOnClose).
     explicit CVKDisplayPreferences(QWidget* parent = nullptr);
     ~CVKDisplayPreferences() override;
 
-    /// Image view, grey palette, pixel numbers, peaks hidden; announces what changes, and in any
-    /// case the first two.
+    /// Announces the image view and the Gray palette, then puts every control back, which announces
+    /// what changes by that: the axis type, the unit, the axis, in this order.
     void resetDefaults();
 
-    /// Redirects the wheel to this panel. A host may install it on the combo boxes, so that the
-    /// wheel scrolls the panel instead of changing them.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    void switchAxis(int index); ///< 0: row, 1: column
-    void switchDisplayType(int index); ///< 0: image, 1: 2D chart
+    void switchAxis(int index); ///< 0 X-Axis, 1 Y-Axis
+    void switchDisplayType(int index); ///< 0 image, 1 two-dimensional curve
     void changeMaxPeaksCount(int count);
     void changeShowPeaksState(bool isShow);
-    void changePalette(QVector<QColor> pal);
-    void changeVerticalRulerTitle(QString title); ///< part of the interface; not emitted
+    void changePalette(QVector<QColor> pal); ///< never empty
+    void changeVerticalRulerTitle(QString title); ///< not sent yet by any control
     void changeHorizontalRulerTitle(QString title);
-    /// Wavelength at pixel 0 and width of a pixel, both -1 for pixel numbers.
+    /// Wavelength of the first pixel and of one pixel's width; both -1.0 for pixel numbers.
     void changePixelsToWavelength(qreal startX, qreal pixelWidth);
 
 public Q_SLOTS:
@@ -51,7 +49,7 @@ public Q_SLOTS:
 protected:
     void paintEvent(QPaintEvent* event) override;
 
-private Q_SLOTS:
+private Q_SLOTS: // connected by name
     void on_radioButtonImage_clicked(bool checked);
     void on_radioButton2D_clicked(bool checked);
     void on_comboBoxDisplay_currentIndexChanged(int index);
@@ -64,29 +62,28 @@ private Q_SLOTS:
     void on_pushButtonColor_clicked(bool checked);
     void on_pushButtonApply_clicked();
     void on_checkBoxPeak_clicked(bool checked);
-    void on_lineEditPeaks_textEdited(QString arg1);
-    void on_lineEditPixelWidth_textEdited(QString arg1);
+    void on_lineEditPeaks_textEdited(const QString& arg1);
+    void on_lineEditPixelWidth_textEdited(const QString& arg1);
 
 private:
-    static constexpr int paletteCount = 5;
+    static constexpr int paletteCount = 5; // Gray, Red, Green, Blue, Color
 
     void attachValidators();
     void fillComboBoxes();
-    void stylePaletteButtons();
-    void fillPalette(int index);
-    void choosePalette(int index);
-    void selectPalette(int index);
-    void setControlsEnabled(const QVector<QWidget*>& controls, bool enabled);
     void setPeakGroupEnabled(bool enabled);
     void setUnitRowEnabled(bool enabled);
-    void sendWavelengths();
+    void sendWavelength();
     QString axisTitle(int typeIndex, int unitIndex) const;
+    std::array<QPushButton*, paletteCount> paletteButtons() const;
+    void choosePalette(int index);
+    void selectPalette(int index);
+    QRect selectionFrame() const;
 
-    int m_currentPalette = 0;
+    std::unique_ptr<Ui::CVKDisplayPreferences> m_form;
     QString m_applicationDirectory;
     QStringList m_unitNames;
-    QStringList m_axisTypeNames;
-    std::array<QVector<QColor>, paletteCount> m_palettes; ///< filled when first chosen, and kept
-    std::unique_ptr<Ui::CVKDisplayPreferences> m_ui;
-    bool m_redirectingWheel = false;
+    QStringList m_typeNames;
+    std::array<QVector<QColor>, paletteCount> m_palettes; ///< filled at first use
+    int m_currentPalette = 0;
+    bool m_isRedirectingWheel = false;
 };

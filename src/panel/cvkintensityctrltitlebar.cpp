@@ -1,6 +1,7 @@
 #include "panel/cvkintensityctrltitlebar.h"
 
 #include "panel/scaledpixels.h"
+#include "panel/titlebarskin.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -8,93 +9,90 @@
 #include <QPainter>
 #include <QPushButton>
 
-#include <algorithm>
-
 CVKIntensityCtrlTitleBar::CVKIntensityCtrlTitleBar(QWidget* parent)
-    : QWidget(parent)
+    : QWidget(parent, Qt::SubWindow)
+    , m_leftSkin(QStringLiteral(":img_mdi_res/skin/mod_title_left.png"))
+    , m_middleSkin(QStringLiteral(":img_mdi_res/skin/mod_title_middle.png"))
+    , m_rightSkin(QStringLiteral(":img_mdi_res/skin/mod_title_right.png"))
 {
-    const double dotsPerInch = primaryDotsPerInch();
-    setWindowFlags(Qt::SubWindow);
     setAttribute(Qt::WA_DeleteOnClose, true);
+    const double dotsPerInch = primaryDotsPerInch();
     setMinimumWidth(scaledPixels(290.0F, dotsPerInch));
     setMinimumHeight(scaledPixels(26.0F, dotsPerInch));
     setMaximumHeight(scaledPixels(28.0F, dotsPerInch));
-    m_leftSkin.load(QStringLiteral(":img_mdi_res/skin/mod_title_left.png"));
-    m_middleSkin.load(QStringLiteral(":img_mdi_res/skin/mod_title_middle.png"));
-    m_rightSkin.load(QStringLiteral(":img_mdi_res/skin/mod_title_right.png"));
 }
 
 void CVKIntensityCtrlTitleBar::setTitle(int index, const QString& title)
 {
-    const double dotsPerInch = primaryDotsPerInch();
     m_moduleIndex = index;
+    const double dotsPerInch = primaryDotsPerInch();
     if (!m_label) {
-        m_label = new QLabel(title, this);
-        QFont font = m_label->font();
-        font.setWeight(75);
-        m_label->setFont(font);
-        m_label->setStyleSheet(QStringLiteral("color: rgb(250, 250, 250);"));
-        m_label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-        m_label->setFixedWidth(scaledPixels(200.0F, dotsPerInch));
+        buildLabel(title, dotsPerInch);
     }
-    if (!m_flex) {
-        m_shrinkage = false;
-        m_flex = new QPushButton(this);
-        m_flex->setCheckable(true);
-        m_flex->setChecked(false);
-        m_flex->setObjectName(QStringLiteral("left_flex1"));
-        m_flex->setFixedSize(30, 24);
-        connect(m_flex, SIGNAL(clicked(bool)), this, SLOT(on_pbFlex_clicked(bool)));
-        m_stateByTitle[title] = m_shrinkage;
+    if (!m_flexButton) {
+        buildFlexButton(title);
     }
     if (!m_layout) {
-        m_layout = new QHBoxLayout(this);
-        m_layout->addStretch();
-        m_layout->setSpacing(scaledPixels(10.0F, dotsPerInch));
-        m_layout->addWidget(m_label);
-        m_layout->addWidget(m_flex);
-        m_layout->addStretch();
-        m_layout->setContentsMargins(0, 0, 0, 0);
+        buildLayout(dotsPerInch);
     }
 }
 
-void CVKIntensityCtrlTitleBar::shrink(bool shrinkage)
+void CVKIntensityCtrlTitleBar::buildLabel(const QString& title, double dotsPerInch)
 {
-    m_shrinkage = shrinkage;
-    m_flex->setChecked(shrinkage);
-    Q_EMIT changeShrinkageState(shrinkage);
+    m_label = new QLabel(title, this);
+    QFont font = m_label->font();
+    font.setWeight(QFont::Bold);
+    m_label->setFont(font);
+    m_label->setStyleSheet(QStringLiteral("color: rgb(250, 250, 250);"));
+    m_label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_label->setFixedWidth(scaledPixels(200.0F, dotsPerInch));
 }
 
-void CVKIntensityCtrlTitleBar::on_pbFlex_clicked(bool checked)
+void CVKIntensityCtrlTitleBar::buildFlexButton(const QString& title)
 {
-    if (m_flex) {
-        shrink(checked);
-    }
+    m_isShrunk = false;
+    m_flexButton = new QPushButton(this);
+    m_flexButton->setCheckable(true);
+    m_flexButton->setChecked(false);
+    m_flexButton->setObjectName(QStringLiteral("left_flex1"));
+    m_flexButton->setFixedSize(30, 24); // Deliberate: not scaled
+    connect(m_flexButton, SIGNAL(clicked(bool)), this, SLOT(on_pbFlex_clicked(bool)));
+    m_stateByTitle[title] = m_isShrunk;
+}
+
+/// Label and button stand in the middle of the bar, as one group.
+void CVKIntensityCtrlTitleBar::buildLayout(double dotsPerInch)
+{
+    m_layout = new QHBoxLayout(this);
+    m_layout->addStretch();
+    m_layout->setSpacing(scaledPixels(10.0F, dotsPerInch));
+    m_layout->addWidget(m_label);
+    m_layout->addWidget(m_flexButton);
+    m_layout->addStretch();
+    m_layout->setContentsMargins(0, 0, 0, 0);
 }
 
 void CVKIntensityCtrlTitleBar::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::LeftButton && m_flex) {
-        shrink(!m_shrinkage);
+    if (event->button() == Qt::LeftButton && m_flexButton) {
+        setShrunk(!m_isShrunk);
     }
+}
+
+void CVKIntensityCtrlTitleBar::on_pbFlex_clicked(bool checked)
+{
+    setShrunk(checked);
+}
+
+void CVKIntensityCtrlTitleBar::setShrunk(bool isShrunk)
+{
+    m_isShrunk = isShrunk;
+    m_flexButton->setChecked(isShrunk);
+    Q_EMIT changeShrinkageState(isShrunk);
 }
 
 void CVKIntensityCtrlTitleBar::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    int x = 0;
-    if (!m_leftSkin.isNull()) {
-        painter.drawPixmap(QRect(0, 0, m_leftSkin.width(), height()), m_leftSkin);
-        x = m_leftSkin.width();
-    }
-    int right = 0; // without a right skin there is no middle either
-    if (!m_rightSkin.isNull()) {
-        right = width() - m_rightSkin.width();
-        painter.drawPixmap(QRect(right, 0, m_rightSkin.width(), height()), m_rightSkin);
-    }
-    while (!m_middleSkin.isNull() && x < right) {
-        const int tile = std::min(right - x, m_middleSkin.width());
-        painter.drawPixmap(QRect(x, 0, tile, height()), m_middleSkin);
-        x += tile;
-    }
+    paintTitleBarSkin(painter, m_leftSkin, m_middleSkin, m_rightSkin, width(), height());
 }

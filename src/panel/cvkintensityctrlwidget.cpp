@@ -1,8 +1,10 @@
 #include "panel/cvkintensityctrlwidget.h"
 
+#include "panel/cvkdatahistogram.h"
+#include "panel/cvkdisplaypreferences.h"
+#include "panel/cvkintensityctrltitlebar.h"
 #include "panel/scaledpixels.h"
 
-#include <QDebug>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QResizeEvent>
@@ -10,29 +12,33 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
-namespace {
-constexpr float scrollAreaTop = 57.0F; // at 96 dots per inch, as the button's size
-constexpr int modulesGap = 5;
-}
-
 CVKIntensityCtrlWidget::CVKIntensityCtrlWidget(QWidget* parent)
     : QWidget(parent)
 {
     setAttribute(Qt::WA_DeleteOnClose, true);
-    createReturnButton();
-    createModules();
-    createModuleColumn();
-    createScrollArea();
-    createMainLayout();
+    buildReturnButton();
+    buildModules();
+    buildScrollArea();
+    buildLayout();
     adjustSize();
 }
 
 CVKIntensityCtrlWidget::~CVKIntensityCtrlWidget()
 {
-    delete m_scrollArea; // no child of this widget
+    delete m_scrollArea.data(); // its parent is not this widget; with it go the modules
 }
 
-void CVKIntensityCtrlWidget::createReturnButton()
+CVKDisplayPreferences* CVKIntensityCtrlWidget::displayPreferences() const
+{
+    return m_preferences;
+}
+
+CVKDataHistogram* CVKIntensityCtrlWidget::dataHistogram() const
+{
+    return m_histogram;
+}
+
+void CVKIntensityCtrlWidget::buildReturnButton()
 {
     const double dotsPerInch = primaryDotsPerInch();
     m_returnButton = new QPushButton(this);
@@ -46,50 +52,48 @@ void CVKIntensityCtrlWidget::createReturnButton()
         QStringLiteral("QPushButton{border-image: url(:res/skin/mod_cfg_close_p.png);}"
                        "QPushButton:hover{border-image: url(:res/skin/mod_cfg_close_h.png);}"
                        "QPushButton:pressed{border-image: url(:res/skin/mod_cfg_close_p.png);}"));
-    const QObject* const application = parent() ? parent()->parent() : nullptr;
-    if (application && application->metaObject()->indexOfSlot("sltSwitchToGallery()") >= 0) {
-        connect(m_returnButton, SIGNAL(clicked()), application, SLOT(sltSwitchToGallery()));
+    QObject* const host = parent() ? parent()->parent() : nullptr;
+    if (host) {
+        connect(m_returnButton, SIGNAL(clicked()), host, SLOT(sltSwitchToGallery()));
     }
 }
 
-void CVKIntensityCtrlWidget::createModules()
+void CVKIntensityCtrlWidget::buildModules()
 {
     m_moduleContainer = new QWidget(this);
     m_moduleContainer->setGeometry(0, 0, 290, 0);
     m_moduleContainer->setStyleSheet(QStringLiteral("background: transparent"));
+
     m_preferencesTitle = new CVKIntensityCtrlTitleBar(this);
     m_preferencesTitle->setTitle(0, tr("Display Preferences"));
     m_preferences = new CVKDisplayPreferences(this);
     m_preferences->setFixedHeight(360);
     m_histogramTitle = new CVKIntensityCtrlTitleBar(this);
-    // Deliberate: index 0 as well; nothing reads it.
-    m_histogramTitle->setTitle(0, tr("Data Histogram"));
+    m_histogramTitle->setTitle(0, tr("Data Histogram")); // Deliberate: index 0 as well
     m_histogram = new CVKDataHistogram(this);
     m_histogram->setFixedHeight(450);
-}
 
-void CVKIntensityCtrlWidget::createModuleColumn()
-{
     auto* const column = new QVBoxLayout();
     m_moduleContainer->setLayout(column);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(m_preferencesTitle);
     column->addWidget(m_preferences);
-    column->addSpacing(modulesGap);
+    column->addSpacing(5);
     column->addWidget(m_histogramTitle);
     column->addWidget(m_histogram);
     column->addStretch();
-    connect(m_preferencesTitle, SIGNAL(changeShrinkageState(bool)), //
-        m_preferences, SLOT(onShrinkaged(bool)));
-    connect(m_histogramTitle, SIGNAL(changeShrinkageState(bool)), //
-        m_histogram, SLOT(onShrinkaged(bool)));
+
+    connect(m_preferencesTitle, SIGNAL(changeShrinkageState(bool)), m_preferences,
+        SLOT(onShrinkaged(bool)));
+    connect(m_histogramTitle, SIGNAL(changeShrinkageState(bool)), m_histogram,
+        SLOT(onShrinkaged(bool)));
 }
 
-void CVKIntensityCtrlWidget::createScrollArea()
+void CVKIntensityCtrlWidget::buildScrollArea()
 {
-    // Beside this widget, over the column that it stands in.
-    m_scrollArea = new QScrollArea(parentWidget() ? parentWidget() : this);
+    QWidget* const owner = parentWidget() ? parentWidget() : this;
+    m_scrollArea = new QScrollArea(owner);
     m_scrollArea->setObjectName(QStringLiteral("Scroll_ModuleWidget"));
     m_scrollArea->verticalScrollBar()->setObjectName(QStringLiteral("bar_ModuleWidget"));
     m_scrollArea->setWidgetResizable(true);
@@ -101,15 +105,15 @@ void CVKIntensityCtrlWidget::createScrollArea()
     m_scrollArea->show();
 }
 
-void CVKIntensityCtrlWidget::createMainLayout()
+void CVKIntensityCtrlWidget::buildLayout()
 {
-    auto* const rows = new QVBoxLayout(this);
+    auto* const main = new QVBoxLayout(this);
     auto* const buttonRow = new QHBoxLayout();
     buttonRow->addWidget(m_returnButton);
     buttonRow->setSpacing(scaledPixels(80.0F, primaryDotsPerInch()));
     buttonRow->addStretch();
-    rows->addLayout(buttonRow);
-    rows->addStretch();
+    main->addLayout(buttonRow);
+    main->addStretch();
 }
 
 void CVKIntensityCtrlWidget::resizeEvent(QResizeEvent* event)
@@ -117,9 +121,11 @@ void CVKIntensityCtrlWidget::resizeEvent(QResizeEvent* event)
     if (!m_scrollArea) {
         return;
     }
-    const int top = scaledPixels(scrollAreaTop, primaryDotsPerInch());
-    const int width = event->size().width();
-    const int height = event->size().height() - top; // negative in a very low window
-    m_scrollArea->setGeometry(0, top, width, height);
-    qDebug("[resizeEvent]x: %d, y: %d, wid: %d, hei: %d\n", 0, top, width, height);
+    const int top = scaledPixels(57.0F, primaryDotsPerInch());
+    const QSize size = event->size();
+    // Deliberate: a panel that ends above the scroll area gives it a negative height.
+    const QRect place(0, top, size.width(), size.height() - top);
+    m_scrollArea->setGeometry(place);
+    qDebug("[resizeEvent]x: %d, y: %d, wid: %d, hei: %d\n", place.x(), place.y(), place.width(),
+        place.height());
 }

@@ -4,62 +4,69 @@
 
 #include <algorithm>
 
-CountRange countRange(const uint* counts, qint64 size)
+namespace {
+
+constexpr int maxFrameWidth = 1 << 20; // pixels
+constexpr double textInset = 2.0; // pixels between the group box's edge and a text kept inside it
+
+int textBaseline(const QRect& frame, double lineHeight)
 {
-    if (size < 1) {
-        return CountRange();
-    }
+    return truncated(frame.bottom() + lineHeight);
+}
+
+} // namespace
+
+CountRange countRange(const uint* counts, int size)
+{
+    Q_ASSERT(counts && size >= 1);
     CountRange range { int(counts[0]), int(counts[0]) };
-    for (qint64 i = 1; i < size; ++i) {
+    for (int i = 1; i < size; ++i) {
         range.smallest = std::min(range.smallest, int(counts[i]));
         range.largest = std::max(range.largest, int(counts[i]));
     }
     return range;
 }
 
-QRect histogramFrame(const QRect& area)
-{
-    return QRect(area.x() + 12, area.y() + 8, area.width() - 24, area.height() - 23);
-}
-
-QVector<QLineF> histogramPolyline(
-    const uint* counts, int size, const CountRange& range, const QRect& frame)
+void buildHistogramPolyline(QVector<QLineF>& lines, const uint* counts, int size,
+    const CountRange& range, const QRect& frame)
 {
     Q_ASSERT(counts && size >= 1);
-    const int inside = frame.right() - frame.left() - 1;
-    const double spread = double(range.largest) - range.smallest;
-    const double xStep = (size - 1.0) / inside;
-    const double yScale = spread > 0.0 ? (frame.bottom() - frame.top() - 1.0) / spread : 0.0;
-    const auto point = [&](int x, double position) {
-        const int index = std::clamp(truncated(position), 0, size - 1);
-        const double above = double(int(counts[index])) - range.smallest;
-        return QPointF(frame.left() + x, frame.bottom() - above * yScale);
+    lines.resize(0);
+    if (frame.width() > maxFrameWidth) {
+        return;
+    }
+    const double left = frame.left();
+    const int steps = frame.width() - 2;
+    const double samplesPerStep = double(size - 1) / steps; // not finite in a frame without room
+    const double heightOfCounts = double(range.largest) - range.smallest;
+    const double pixelsPerCount
+        = heightOfCounts > 0.0 ? (frame.height() - 2) / heightOfCounts : 0.0;
+    const auto pointAt = [&](double x, double position) {
+        const int sample = std::clamp(truncated(position), 0, size - 1);
+        const double count = int(counts[sample]);
+        return QPointF(x, frame.bottom() - (count - range.smallest) * pixelsPerCount);
     };
-    QVector<QLineF> lines;
-    lines.reserve(std::max(inside, 1));
-    QPointF end = point(3, xStep);
-    lines.append(QLineF(point(2, 0.0), end));
-    // Deliberate: sample 2 is skipped, and from sample 3 on each stands one pixel further right
-    // than the first two.
-    for (int i = 3; i <= inside; ++i) {
-        const QPointF next = point(i + 1, i * xStep);
+    // Deliberate: samples 0 and 1 stand at columns 2 and 3, sample 2 is left out, and from 3 on
+    // sample i stands at column i + 1.
+    QPointF end = pointAt(left + 3.0, samplesPerStep);
+    lines.append(QLineF(pointAt(left + 2.0, 0.0), end));
+    for (int i = 3; i <= steps; ++i) {
+        const QPointF next = pointAt(left + 1.0 + i, i * samplesPerStep);
         lines.append(QLineF(end, next));
         end = next;
     }
-    return lines;
 }
 
-QPoint minimumTextOrigin(const QRect& frame, int groupLeft, const QSizeF& textSize)
+QPoint minimumTextPlace(const QRect& frame, int groupLeft, double textWidth, double lineHeight)
 {
-    const double centred = frame.left() - textSize.width() / 2.0;
-    const double x = groupLeft > centred ? groupLeft + 2.0 : centred;
-    return QPoint(truncated(x), truncated(frame.bottom() + textSize.height()));
+    const double centred = frame.left() - textWidth / 2.0;
+    const double x = groupLeft > centred ? groupLeft + textInset : centred;
+    return QPoint(truncated(x), textBaseline(frame, lineHeight));
 }
 
-QPoint maximumTextOrigin(const QRect& frame, int groupRight, const QSizeF& textSize)
+QPoint maximumTextPlace(const QRect& frame, int groupRight, double textWidth, double lineHeight)
 {
-    const double half = textSize.width() / 2.0;
-    const double x = frame.right() + half > groupRight ? groupRight - textSize.width() - 2.0
-                                                       : frame.right() - half;
-    return QPoint(truncated(x), truncated(frame.bottom() + textSize.height()));
+    const bool isCut = frame.right() + textWidth / 2.0 > groupRight;
+    const double x = isCut ? groupRight - textWidth - textInset : frame.right() - textWidth / 2.0;
+    return QPoint(truncated(x), textBaseline(frame, lineHeight));
 }

@@ -3,34 +3,32 @@
 #include <QLineF>
 #include <QPoint>
 #include <QRect>
-#include <QSizeF>
 #include <QVector>
 
-/// How a histogram stands in its frame, in pixels of the panel.
+/// The drawing of the histogram panel. `frame` is the drawn frame in pixels of the panel; its right
+/// and bottom edges are those of QRect, the last pixel inside.
 
-/// Smallest and largest count. Deliberate: compared as signed numbers, so a count from 2^31 on is a
-/// negative one.
+/// Smallest and largest of some counts, compared as signed numbers.
 struct CountRange
 {
     int smallest = 0;
     int largest = 0;
 };
 
-/// Of `size` counts; without any, both are 0.
-CountRange countRange(const uint* counts, qint64 size);
+/// Range of `size` >= 1 counts.
+CountRange countRange(const uint* counts, int size);
 
-/// The frame's rectangle inside the place of the histogram, `area`.
-QRect histogramFrame(const QRect& area);
+/// Builds the consecutive segments that draw `size` >= 1 counts into `lines`, whose capacity is
+/// kept. The smallest count lies on the frame's bottom edge, the largest one below its top edge;
+/// equal counts all lie on the bottom edge. A frame whose left and right edges are less than four
+/// pixels apart gets the first segment alone, one wider than 2^20 pixels none.
+void buildHistogramPolyline(QVector<QLineF>& lines, const uint* counts, int size,
+    const CountRange& range, const QRect& frame);
 
-/// The counts as consecutive segments, one point a pixel of the frame's inside. `size` is at least
-/// 1. A frame with fewer than four pixels inside gets the first segment alone; equal counts lie on
-/// the bottom edge.
-QVector<QLineF> histogramPolyline(
-    const uint* counts, int size, const CountRange& range, const QRect& frame);
+/// Baseline point of the text under the left end of the frame, centred on it but kept inside
+/// `groupLeft`, the left edge of the group box.
+QPoint minimumTextPlace(const QRect& frame, int groupLeft, double textWidth, double lineHeight);
 
-/// Baseline origin of the text of `textSize` under the left end of the frame, which stays right of
-/// `groupLeft`.
-QPoint minimumTextOrigin(const QRect& frame, int groupLeft, const QSizeF& textSize);
-
-/// Baseline origin of the text under the right end of the frame, which stays left of `groupRight`.
-QPoint maximumTextOrigin(const QRect& frame, int groupRight, const QSizeF& textSize);
+/// Baseline point of the text under the right end of the frame, centred on it but kept inside
+/// `groupRight`, the right edge of the group box.
+QPoint maximumTextPlace(const QRect& frame, int groupRight, double textWidth, double lineHeight);

@@ -1,75 +1,24 @@
 #include "panel/modulebackground.h"
 
+#include "panel/moduletiles.h"
+
 #include <QPainter>
 #include <QPixmap>
 
-#include <algorithm>
-
 namespace {
 
-QPixmap moduleImage(const char* name)
+void drawTiles(QPainter* painter, const QVector<QRect>& tiles, const QPixmap& pixmap)
 {
-    return QPixmap(QStringLiteral(":/ui/res/icon/") + QLatin1String(name));
-}
-
-void drawAt(QPainter* painter, const QPixmap& image, int x, int y, int width, int height)
-{
-    painter->drawPixmap(QRect(x, y, width, height), image);
-}
-
-void tileCentre(QPainter* painter, const QPixmap& tile, int W, int H)
-{
-    if (tile.isNull()) {
-        return;
-    }
-    const int mw = tile.width();
-    const int mh = tile.height();
-    int x = mw; // Deliberate: the left margin is the tile's width, whatever the left edge measures
-    int y = 0;
-    while (y < H - mh) {
-        if (x >= W - mw) {
-            x = mw;
-            y += mh;
-            if (y >= H - mh) {
-                return;
-            }
-        }
-        drawAt(painter, tile, x, y, mw, y > H - 2 * mh ? H - y - mh : mh);
-        x = std::min(x + mw, W - mw);
+    for (const QRect& tile : tiles) {
+        painter->drawPixmap(tile, pixmap);
     }
 }
 
-/// Tiles an edge downward at `x` to the corner at the bottom.
-void tileDown(QPainter* painter, const QPixmap& edge, int x, int H, int cornerHeight)
-{
-    if (edge.isNull()) {
-        return;
-    }
-    const int h = edge.height();
-    for (int y = 0; y < H - cornerHeight; y += h) {
-        const bool isCut = cornerHeight != 0 && y > H - cornerHeight - h;
-        drawAt(painter, edge, x, y, edge.width(), isCut ? H - y - cornerHeight : h);
-    }
-}
-
-/// Tiles the bottom edge from the left corner to the right one.
-void tileAcross(QPainter* painter, const QPixmap& edge, int W, int H, int left, int right)
-{
-    if (edge.isNull()) {
-        return;
-    }
-    const int w = edge.width();
-    const int y = H - edge.height();
-    for (int x = left; x < W - right; x += w) {
-        const bool isCut = right != 0 && x > W - right - w;
-        drawAt(painter, edge, x, y, isCut ? W - x - right : w, edge.height());
-    }
-}
-
-void drawCorner(QPainter* painter, const QPixmap& corner, int x, int H)
+void drawCorner(QPainter* painter, int x, int height, const QPixmap& corner)
 {
     if (!corner.isNull()) {
-        drawAt(painter, corner, x, H - corner.height(), corner.width(), corner.height());
+        painter->drawPixmap(
+            QRect(x, height - corner.height(), corner.width(), corner.height()), corner);
     }
 }
 
@@ -77,14 +26,24 @@ void drawCorner(QPainter* painter, const QPixmap& corner, int x, int H)
 
 void paintModuleBackground(QPainter* painter, int W, int H)
 {
-    const QPixmap bottomLeft = moduleImage("module_bl.png");
-    const QPixmap bottomRight = moduleImage("module_br.png");
-    const QPixmap rightEdge = moduleImage("module_mr.png");
-    tileCentre(painter, moduleImage("moduel_m.png"), W, H); // the file is spelled so
-    tileDown(painter, moduleImage("module_ml.png"), 0, H, bottomLeft.height());
-    tileDown(painter, rightEdge, W - rightEdge.width(), H, bottomRight.height());
-    tileAcross(
-        painter, moduleImage("module_bm.png"), W, H, bottomLeft.width(), bottomRight.width());
-    drawCorner(painter, bottomLeft, 0, H);
-    drawCorner(painter, bottomRight, W - bottomRight.width(), H);
+    if (W < 1 || H < 1) {
+        return;
+    }
+    // Loaded anew for every paint: the application may exchange its resources.
+    const QPixmap bottomLeft(QStringLiteral(":/ui/res/icon/module_bl.png"));
+    const QPixmap bottomRight(QStringLiteral(":/ui/res/icon/module_br.png"));
+    const QPixmap centre(QStringLiteral(":/ui/res/icon/moduel_m.png")); // the file's real name
+    const QPixmap left(QStringLiteral(":/ui/res/icon/module_ml.png"));
+    const QPixmap right(QStringLiteral(":/ui/res/icon/module_mr.png"));
+    const QPixmap bottom(QStringLiteral(":/ui/res/icon/module_bm.png"));
+
+    const QSize panel(W, H);
+    drawTiles(painter, centreTiles(centre.size(), panel), centre);
+    drawTiles(painter, sideTiles(0, left.size(), bottomLeft.height(), panel), left);
+    drawTiles(
+        painter, sideTiles(W - right.width(), right.size(), bottomRight.height(), panel), right);
+    drawTiles(painter, bottomTiles(bottom.size(), bottomLeft.width(), bottomRight.width(), panel),
+        bottom);
+    drawCorner(painter, 0, H, bottomLeft);
+    drawCorner(painter, W - bottomRight.width(), H, bottomRight);
 }

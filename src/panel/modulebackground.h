@@ -2,7 +2,7 @@
 
 class QPainter;
 
-/// Paints the skin behind the controls of a module into the rectangle (0, 0, W, H): tiled centre,
-/// edges at the left, right and bottom, and the two lower corners; the title bar stands above. The
-/// images come from the application's resources; a missing one leaves its part unpainted.
+/// Paints the background of a module panel into (0, 0, W, H): a tiled centre, left, right and
+/// bottom edges and the two bottom corners. There is no top edge, the title bar stands there. The
+/// images are resources of the application; a missing one leaves its part unpainted.
 void paintModuleBackground(QPainter* painter, int W, int H);

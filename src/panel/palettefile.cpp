@@ -2,42 +2,71 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QStringRef>
+#include <QTextStream>
+
+#include <new>
 
 namespace {
 
 constexpr int maxLines = 1000000;
-constexpr qint64 maxBytes = qint64(64) << 20;
+constexpr qint64 maxCharacters = qint64(64) << 20;
 
-QColor lineColor(QByteArray line)
+/// Takes the part in front of the next space off `rest` and reads it as a number, 0 if it is none.
+/// Two spaces in a row have an empty field between them.
+int takeField(QStringRef& rest)
 {
-    if (line.endsWith('\n')) {
-        line.chop(1);
-    }
-    const QList<QByteArray> fields = line.split(' ');
+    const int space = rest.indexOf(QLatin1Char(' '));
+    const QStringRef field = rest.left(space); // all of it when there is no space
+    rest = space < 0 ? QStringRef() : rest.mid(space + 1);
+    return field.toInt();
+}
+
+QColor lineColor(const QString& line)
+{
+    QStringRef rest(&line);
+    const int red = takeField(rest);
+    const int green = takeField(rest);
+    const int blue = takeField(rest);
     QColor color;
-    color.setRgb(fields.value(0).toInt(), fields.value(1).toInt(), fields.value(2).toInt());
+    color.setRgb(red, green, blue, 255);
     return color;
+}
+
+/// Appends a colour for each line of `file`, up to the limits.
+void appendColors(QFile& file, QVector<QColor>& palette)
+{
+    QTextStream stream(&file);
+    qint64 charactersLeft = maxCharacters;
+    while (!stream.atEnd() && palette.size() < maxLines && charactersLeft > 0) {
+        const QString line = stream.readLine(charactersLeft);
+        charactersLeft -= line.size() + 1;
+        palette.append(lineColor(line));
+    }
 }
 
 } // namespace
 
-void readPaletteFile(const QString& path, QVector<QColor>* palette)
+QString paletteFilePath(const QString& directory, const QString& name)
 {
-    const QString native
-        = QFileInfo::exists(path) ? path : QString(path).replace(QChar('\\'), QChar('/'));
-    QFile file(native);
-    // A pipe would block for ever.
-    if (!QFileInfo(native).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        return;
+    return directory + QString(name).replace(QLatin1Char('\\'), QLatin1Char('/'));
+}
+
+bool readPaletteFile(const QString& path, QVector<QColor>& palette)
+{
+    if (!QFileInfo(path).isFile()) {
+        return false; // opening a pipe would block for ever
     }
-    palette->clear();
-    qint64 bytes = 0;
-    while (!file.atEnd() && palette->size() < maxLines && bytes < maxBytes) {
-        const QByteArray line = file.readLine(maxBytes - bytes + 1);
-        if (line.isEmpty()) {
-            return; // unreadable from here on
-        }
-        bytes += line.size();
-        palette->append(lineColor(line));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        return false;
     }
+    try {
+        palette.resize(0); // keeps the capacity
+        appendColors(file, palette);
+    } catch (const std::bad_alloc&) {
+        palette.clear(); // a line of many megabytes
+        return false;
+    }
+    return true;
 }

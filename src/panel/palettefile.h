@@ -4,12 +4,16 @@
 #include <QString>
 #include <QVector>
 
-/// Reads the palette file `path`: plain text, a colour a line, as three decimal numbers with one
-/// space between them; line 1 is display level 0.
-///
-/// Both kinds of path separators are understood on every platform. A field that is no number, is
-/// missing, or stands empty between two spaces counts as 0; fields after the third are ignored;
-/// numbers outside 0..255 give an invalid colour. Reading stops after a million lines or 64 MiB.
-/// `palette` stays as it was when there is no regular file that can be read, and is empty after an
-/// empty one.
-void readPaletteFile(const QString& path, QVector<QColor>* palette);
+/// A palette file is plain text with one colour a line: red, green and blue as decimal numbers, one
+/// space between them; line 1 belongs to display level 0.
+
+/// The file `name` in or below `directory`; `name` begins with a separator and may separate with
+/// slashes or backslashes on every platform.
+QString paletteFilePath(const QString& directory, const QString& name);
+
+/// Reads a palette file into `palette`, opaque colours, one for each line however many there are.
+/// What is no number, and what a short line lacks, counts as 0; fields behind the third are
+/// ignored; a line with a number outside 0..255 gives an invalid colour. Reading stops after a
+/// million lines or 64 Mi characters. False, and `palette` stays, when the file cannot be opened or
+/// is not a regular one; an empty file leaves it empty, and so does, with false, a lack of memory.
+bool readPaletteFile(const QString& path, QVector<QColor>& palette);

@@ -14,7 +14,7 @@
 
 bool limitLargeAllocations()
 {
-    return qgetenv("ASAN_OPTIONS").contains("max_allocation_size_mb=256");
+    return qgetenv("ASAN_OPTIONS").contains("max_allocation_size_mb=");
 }
 
 #elif defined(__linux__)
