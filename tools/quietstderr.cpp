@@ -1,6 +1,7 @@
 #include "quietstderr.h"
 
 #include <cstdio>
+#include <mutex>
 
 #include <fcntl.h>
 #ifdef _WIN32
@@ -49,28 +50,51 @@ void closeDescriptor(int descriptor)
 }
 #endif
 
-} // namespace
-
-QuietStandardError::QuietStandardError()
-    : m_saved(-1)
+/// Sends standard error to nowhere; a descriptor of the real one, negative when it could not be
+/// kept.
+int silenced()
 {
     std::fflush(stderr);
     const int null = openedNull();
     if (null < 0) {
-        return;
+        return -1;
     }
-    m_saved = duplicated(standardError);
-    if (m_saved >= 0) {
+    const int saved = duplicated(standardError);
+    if (saved >= 0) {
         replace(standardError, null);
     }
     closeDescriptor(null);
+    return saved;
+}
+
+void restore(int saved)
+{
+    if (saved >= 0) {
+        std::fflush(stderr);
+        replace(standardError, saved);
+        closeDescriptor(saved);
+    }
+}
+
+// Standard error belongs to the whole process, and so does what is known about it.
+std::mutex guardMutex;
+int guardCount = 0;
+int savedDescriptor = -1;
+
+} // namespace
+
+QuietStandardError::QuietStandardError()
+{
+    const std::lock_guard<std::mutex> lock(guardMutex);
+    if (guardCount++ == 0) {
+        savedDescriptor = silenced();
+    }
 }
 
 QuietStandardError::~QuietStandardError()
 {
-    if (m_saved >= 0) {
-        std::fflush(stderr);
-        replace(standardError, m_saved);
-        closeDescriptor(m_saved);
+    const std::lock_guard<std::mutex> lock(guardMutex);
+    if (--guardCount == 0) {
+        restore(savedDescriptor);
     }
 }

@@ -1,8 +1,9 @@
 #pragma once
 
-/// While it lives, nothing reaches the process's standard error. The codecs of image libraries
+/// While one lives, nothing reaches the process's standard error. The codecs of image libraries
 /// write their own complaints about damaged files there, past every logging category; programs
-/// that promise one line on failure read files under this guard. Not for several threads at once.
+/// that promise one line on failure read files under this guard. Several may live at once, in any
+/// threads: the first one silences, the last one to go restores.
 class QuietStandardError
 {
 public:
@@ -10,7 +11,4 @@ public:
     ~QuietStandardError();
     QuietStandardError(const QuietStandardError&) = delete;
     QuietStandardError& operator=(const QuietStandardError&) = delete;
-
-private:
-    int m_saved; // descriptor of the real standard error; negative when it could not be kept
 };

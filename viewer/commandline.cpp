@@ -82,11 +82,12 @@ QSize parsedSize(const QString& text)
 QString commandLineHelp()
 {
     return QStringLiteral(
-        "Usage: vkviewer [IMAGE]\n"
-        "       vkviewer --screenshot FILE.png [--size WIDTHxHEIGHT] IMAGE\n"
+        "Usage: vkviewer [IMAGE | FOLDER]\n"
+        "       vkviewer --screenshot FILE.png [--size WIDTHxHEIGHT] IMAGE | FOLDER\n"
         "\n"
         "Shows a camera image with its intensity profiles, rulers and palette.\n"
-        "IMAGE is a jpg, jpeg, tif, tiff, bmp or png picture or a raw camera file.\n"
+        "IMAGE is a jpg, jpeg, tif, tiff, bmp or png picture or a raw camera file; of a FOLDER\n"
+        "its images are shown in a gallery.\n"
         "\n"
         "  --screenshot FILE.png   save the window as a picture and exit\n"
         "  --size WIDTHxHEIGHT     size of that window in pixels\n"

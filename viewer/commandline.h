@@ -7,7 +7,7 @@
 /// What the program was asked to do.
 struct CommandLine
 {
-    QString image; ///< file to open; empty: none
+    QString image; ///< file to open, or folder to show; empty: none
     QString screenshot; ///< file to save the window to; empty: an ordinary session
     QSize size; ///< window size in pixels; not valid: the default
     QString error; ///< one line; empty when the arguments make sense

@@ -2,7 +2,9 @@
 
 #include "rawframe.h"
 
+#include <QCollator>
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QImageReader>
 
@@ -95,6 +97,19 @@ QString rawSummary(const QString& path)
     return sizeText(header.width, header.height) + "   " + depth;
 }
 
+/// Sorts by name as a person would, the same in every language.
+void sortByName(QFileInfoList* files)
+{
+    QCollator collator { QLocale(QLocale::English) }; // the C locale compares bytes
+    collator.setNumericMode(true);
+    collator.setCaseSensitivity(Qt::CaseInsensitive);
+    const auto before = [&collator](const QFileInfo& a, const QFileInfo& b) {
+        const int order = collator.compare(a.fileName(), b.fileName());
+        return order != 0 ? order < 0 : a.fileName() < b.fileName();
+    };
+    std::sort(files->begin(), files->end(), before);
+}
+
 } // namespace
 
 QStringList imageSuffixes()
@@ -109,6 +124,18 @@ QString openDialogFilter()
         patterns << "*." + suffix;
     }
     return text("Images (%1)").arg(patterns.join(' ')) + ";;" + text("All files (*)");
+}
+
+QFileInfoList imagesInFolder(const QString& folder)
+{
+    const QStringList suffixes = imageSuffixes();
+    QFileInfoList files = QDir(folder).entryInfoList(QDir::Files, QDir::Unsorted);
+    const auto unwanted = [&suffixes](const QFileInfo& file) {
+        return !file.isFile() || !suffixes.contains(file.suffix().toLower());
+    };
+    files.erase(std::remove_if(files.begin(), files.end(), unwanted), files.end());
+    sortByName(&files);
+    return files;
 }
 
 QString loadProblem(const QString& path)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFileInfo>
 #include <QString>
 #include <QStringList>
 
@@ -10,6 +11,10 @@ QStringList imageSuffixes();
 
 /// Name filters of the open dialog.
 QString openDialogFilter();
+
+/// The regular files in `folder` whose suffix can be opened, by name, numbers in names by value: 2
+/// before 10. Empty for a folder that is missing or cannot be read.
+QFileInfoList imagesInFolder(const QString& folder);
 
 /// The likely reason why the file cannot be shown, as one sentence for the user. To be asked after
 /// a load has failed: when nothing else is wrong, the content is.

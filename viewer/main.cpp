@@ -60,7 +60,7 @@ int runWindow(ViewerWindow* window, const QString& image)
     window->resize(startSize());
     window->show();
     if (!image.isEmpty()) {
-        QTimer::singleShot(0, window, [window, image] { window->openFile(image); });
+        QTimer::singleShot(0, window, [window, image] { window->openPath(image); });
     }
     return QApplication::exec();
 }

@@ -34,12 +34,17 @@ QLabel* picture(const QString& resource)
     return label;
 }
 
-QPushButton* openButton()
+QPushButton* namedButton(const QString& objectName, const QString& text)
 {
-    auto* button = new QPushButton(WelcomePage::tr("Open Image..."));
-    button->setObjectName("pageOpenButton");
+    auto* button = new QPushButton(text);
+    button->setObjectName(objectName);
     button->setCursor(Qt::PointingHandCursor);
     return button;
+}
+
+QPushButton* openButton()
+{
+    return namedButton("pageOpenButton", WelcomePage::tr("Open Image..."));
 }
 
 QLabel* titleLabel(const QString& text)
@@ -51,8 +56,8 @@ QLabel* titleLabel(const QString& text)
     return label;
 }
 
-/// Picture, texts and button one below the other, on a card in the middle of the page.
-void fillPage(QFrame* page, const QVector<QWidget*>& widgets, QPushButton* button)
+/// Picture, texts and a row of buttons one below the other, on a card in the middle of the page.
+void fillPage(QFrame* page, const QVector<QWidget*>& widgets, const QVector<QPushButton*>& buttons)
 {
     auto* card = new QFrame;
     card->setObjectName("pageCard");
@@ -66,7 +71,14 @@ void fillPage(QFrame* page, const QVector<QWidget*>& widgets, QPushButton* butto
         column->addWidget(widget);
     }
     column->addSpacing(scaledForScreen(10));
-    column->addWidget(button, 0, Qt::AlignHCenter);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(scaledForScreen(10));
+    row->addStretch(1);
+    for (QPushButton* button : buttons) {
+        row->addWidget(button);
+    }
+    row->addStretch(1);
+    column->addLayout(row);
     column->addStretch(1);
 
     auto* centre = new QHBoxLayout(page);
@@ -86,7 +98,7 @@ WelcomePage::WelcomePage(QWidget* parent)
         titleLabel(tr("Drop a camera image here")),
         namedLabel<QLabel>("pageText", tr("JPEG, TIFF, BMP, PNG, or a raw camera file")),
     };
-    fillPage(this, widgets, button);
+    fillPage(this, widgets, { button });
     connect(button, &QPushButton::clicked, this, &WelcomePage::openRequested);
 }
 
@@ -103,7 +115,7 @@ LoadProblemPage::LoadProblemPage(QWidget* parent)
         m_fileName,
         m_reason,
     };
-    fillPage(this, widgets, button);
+    fillPage(this, widgets, { button });
     connect(button, &QPushButton::clicked, this, &LoadProblemPage::openRequested);
 }
 
@@ -123,4 +135,23 @@ QString LoadProblemPage::fileName() const
 QString LoadProblemPage::reason() const
 {
     return m_reason->text();
+}
+
+EmptyFolderPage::EmptyFolderPage(QWidget* parent)
+    : QFrame(parent)
+    , m_title(titleLabel(QString()))
+    , m_text(namedLabel<QLabel>("pageText", QString()))
+{
+    setObjectName("emptyFolderPage");
+    QPushButton* file = openButton();
+    QPushButton* folder = namedButton("pageFolderButton", tr("Choose Folder..."));
+    fillPage(this, { picture(":/viewer/logo.png"), m_title, m_text }, { folder, file });
+    connect(file, &QPushButton::clicked, this, &EmptyFolderPage::openRequested);
+    connect(folder, &QPushButton::clicked, this, &EmptyFolderPage::folderRequested);
+}
+
+void EmptyFolderPage::setTexts(const QString& title, const QString& text)
+{
+    m_title->setText(title);
+    m_text->setText(text);
 }

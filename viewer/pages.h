@@ -38,3 +38,22 @@ private:
     ElidedLabel* m_fileName;
     QLabel* m_reason;
 };
+
+/// Stands in place of a gallery without images: says so, and offers ways on.
+class EmptyFolderPage : public QFrame
+{
+    Q_OBJECT
+
+public:
+    explicit EmptyFolderPage(QWidget* parent = nullptr);
+
+    void setTexts(const QString& title, const QString& text);
+
+Q_SIGNALS:
+    void openRequested();
+    void folderRequested();
+
+private:
+    QLabel* m_title;
+    QLabel* m_text;
+};

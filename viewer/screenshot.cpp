@@ -15,6 +15,7 @@ namespace {
 
 constexpr int exposeMilliseconds = 5000; // a screen that shows no window must not hang the program
 constexpr int settleMilliseconds = 150;
+constexpr int galleryMilliseconds = 60000; // then the picture shows what has come
 
 void runEvents(int milliseconds)
 {
@@ -38,7 +39,16 @@ void settle(const ViewerWindow& window)
 bool openQuietly(ViewerWindow* window, const QString& path)
 {
     const QuietStandardError quiet;
-    return window->openFile(path);
+    return window->openPath(path);
+}
+
+void waitForGallery(const ViewerWindow& window)
+{
+    QElapsedTimer waited;
+    waited.start();
+    while (window.isGalleryLoading() && !waited.hasExpired(galleryMilliseconds)) {
+        runEvents(10);
+    }
 }
 
 QString sizeProblem(const ViewerWindow& window, const QSize& size)
@@ -75,6 +85,7 @@ QString takeScreenshot(ViewerWindow* window, const CommandLine& line)
     if (!openQuietly(window, line.image)) {
         return QString("%1: %2").arg(line.image, window->problem());
     }
+    waitForGallery(*window);
     settle(*window);
     return savePicture(window->grab(), line.screenshot);
 }

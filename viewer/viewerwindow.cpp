@@ -3,10 +3,12 @@
 #include "appearance.h"
 #include "cvkintensitywidget.h"
 #include "elidedlabel.h"
+#include "gallerypage.h"
 #include "imagefiles.h"
 #include "pages.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QFileDialog>
@@ -41,13 +43,17 @@ ViewerWindow::ViewerWindow(QWidget* parent)
     createIntensityWidget();
     // Room for the panel column, the strips beside the image and a little image.
     setMinimumSize(scaledForScreen(290) + 350, 480);
-    closeFile();
+    showWelcome();
 }
 
 void ViewerWindow::createMenu()
 {
     QMenu* file = menuBar()->addMenu(tr("&File"));
     file->addAction(tr("&Open..."), this, &ViewerWindow::chooseFile, QKeySequence::Open);
+    file->addAction(
+        tr("Open &Folder..."), this, &ViewerWindow::chooseFolder, QKeySequence("Ctrl+Shift+O"));
+    file->addAction(tr("&Gallery"), this, &ViewerWindow::showMenuGallery, QKeySequence("Ctrl+G"));
+    file->addSeparator();
     file->addAction(tr("&Close"), this, &ViewerWindow::closeFile, QKeySequence("Ctrl+W"));
     file->addSeparator();
     file->addAction(tr("&Quit"), this, &ViewerWindow::close, QKeySequence("Ctrl+Q"));
@@ -61,9 +67,14 @@ void ViewerWindow::createPages()
     m_problemPage = new LoadProblemPage;
     m_pages->addWidget(m_welcomePage);
     m_pages->addWidget(m_problemPage);
+    m_galleryPage = new GalleryPage;
+    m_pages->addWidget(m_galleryPage);
     setCentralWidget(m_pages);
     connect(m_welcomePage, &WelcomePage::openRequested, this, &ViewerWindow::chooseFile);
     connect(m_problemPage, &LoadProblemPage::openRequested, this, &ViewerWindow::chooseFile);
+    connect(m_galleryPage, &GalleryPage::imageRequested, this, &ViewerWindow::openFile);
+    connect(m_galleryPage, &GalleryPage::openRequested, this, &ViewerWindow::chooseFile);
+    connect(m_galleryPage, &GalleryPage::folderRequested, this, &ViewerWindow::chooseFolder);
 
     m_fileName = new ElidedLabel;
     m_fileName->setObjectName("statusFileName");
@@ -94,6 +105,7 @@ bool ViewerWindow::openFile(const QString& path)
     const WaitCursor waitCursor;
     const QFileInfo file(path);
     m_folder = file.absolutePath();
+    m_file = file.absoluteFilePath();
     if (!loadIntoWidget(file.absoluteFilePath())) {
         showProblem(path);
         return false;
@@ -130,11 +142,17 @@ void ViewerWindow::showProblem(const QString& path)
 
 void ViewerWindow::nameFile(const QString& path, const QString& summary)
 {
-    const QString application = tr("VKIntensity Viewer");
-    const QString name = QFileInfo(path).fileName().simplified();
-    setWindowTitle(name.isEmpty() ? application : name + " - " + application);
     const QString absolute = QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath());
-    m_fileName->setText(path.isEmpty() ? tr("No image") : absolute);
+    nameWindow(QFileInfo(path).fileName(), absolute, summary);
+}
+
+/// Title of the window and texts of the status bar.
+void ViewerWindow::nameWindow(const QString& shown, const QString& status, const QString& summary)
+{
+    const QString application = tr("VKIntensity Viewer");
+    const QString name = shown.simplified();
+    setWindowTitle(name.isEmpty() ? application : name + " - " + application);
+    m_fileName->setText(status);
     m_imageSize->setText(summary);
 }
 
@@ -152,23 +170,95 @@ void ViewerWindow::chooseFile()
     }
 }
 
+void ViewerWindow::chooseFolder()
+{
+    const QString path = QFileDialog::getExistingDirectory(this, tr("Open Folder"), m_folder);
+    if (!path.isEmpty()) {
+        showGallery(path);
+    }
+}
+
+bool ViewerWindow::openPath(const QString& path)
+{
+    if (!path.isEmpty() && QFileInfo(path).isDir()) {
+        showGallery(path);
+        return true;
+    }
+    return openFile(path);
+}
+
+void ViewerWindow::showGallery(const QString& folder)
+{
+    const WaitCursor waitCursor; // for thousands of files
+    releaseImage();
+    m_galleryPage->showFolder(folder, m_file);
+    m_folder = m_galleryPage->folder();
+    m_pages->setCurrentWidget(m_galleryPage);
+    m_galleryPage->setFocus();
+    const QString name = QDir(m_folder).dirName();
+    nameWindow(name, QDir::toNativeSeparators(m_folder), QString());
+}
+
+/// The gallery of the menu: before any folder is known, the user chooses one.
+void ViewerWindow::showMenuGallery()
+{
+    if (m_folder.isEmpty()) {
+        chooseFolder();
+    } else {
+        showGallery(m_folder);
+    }
+}
+
+bool ViewerWindow::isGalleryLoading() const
+{
+    return m_pages->currentWidget() == m_galleryPage && m_galleryPage->isLoading();
+}
+
+void ViewerWindow::showWelcome()
+{
+    releaseImage();
+    m_galleryPage->stopLoading();
+    m_pages->setCurrentWidget(m_welcomePage);
+    nameWindow(QString(), tr("No image"), QString());
+}
+
+/// Closes the image and brings the button that asked for it, if it did, back up.
+void ViewerWindow::releaseImage()
+{
+    if (!m_intensityWidget) {
+        return;
+    }
+    m_intensityWidget->closeImage();
+    if (auto* button = m_intensityWidget->findChild<QPushButton*>("Return")) {
+        button->setChecked(false);
+    }
+}
+
 void ViewerWindow::closeFile()
 {
-    if (m_intensityWidget) {
-        m_intensityWidget->closeImage();
+    const QWidget* page = m_pages->currentWidget();
+    const bool fromFile = page == m_intensityWidget || page == m_problemPage;
+    if (fromFile && !imagesInFolder(m_folder).isEmpty()) {
+        showGallery(m_folder);
+    } else {
+        showWelcome();
     }
-    m_pages->setCurrentWidget(m_welcomePage);
-    nameFile(QString(), QString());
 }
 
 void ViewerWindow::sltSwitchToGallery()
 {
-    closeFile();
-    auto* const button
-        = m_intensityWidget ? m_intensityWidget->findChild<QPushButton*>("Return") : nullptr;
-    if (button) {
-        button->setChecked(false); // it is checkable, and the click has checked it
+    if (m_folder.isEmpty()) {
+        showWelcome();
+    } else {
+        showGallery(m_folder);
     }
+}
+
+/// Nothing is read any more for a window that nobody sees.
+void ViewerWindow::closeEvent(QCloseEvent* event)
+{
+    m_galleryPage->stopLoading();
+    QMainWindow::closeEvent(event);
 }
 
 QString ViewerWindow::draggedFile(const QMimeData* data)
@@ -192,5 +282,5 @@ void ViewerWindow::dropEvent(QDropEvent* event)
     }
     event->acceptProposedAction();
     // The program that the file comes from waits until the event is answered.
-    QTimer::singleShot(0, this, [this, path] { openFile(path); });
+    QTimer::singleShot(0, this, [this, path] { openPath(path); });
 }

@@ -1,0 +1,107 @@
+#include "gallerydelegate.h"
+
+#include "appearance.h"
+#include "gallerymodel.h"
+
+#include <QPainter>
+
+namespace {
+
+const QColor frameColor(61, 73, 86);
+const QColor frameGround(22, 27, 33);
+const QColor hoverGround(33, 40, 49);
+const QColor currentColor(72, 172, 186);
+const QColor currentGround(26, 55, 62);
+const QColor nameColor(201, 210, 220);
+const QColor currentNameColor(250, 250, 250);
+constexpr qreal unreadableOpacity = 0.45;
+
+// Distances at 96 dots per inch.
+constexpr int gap = 5; // around a tile, half of what lies between two
+constexpr int padding = 8; // between tile and picture
+constexpr int nameHeight = 26;
+
+/// Where a picture of `size` pixels stands: in the middle, smaller when there is no room for it.
+QRectF centred(const QSizeF& size, const QRect& room)
+{
+    const bool fits = size.width() <= room.width() && size.height() <= room.height();
+    QRectF place(QPointF(), fits ? size : size.scaled(QSizeF(room.size()), Qt::KeepAspectRatio));
+    place.moveCenter(QRectF(room).center());
+    place.moveTopLeft(QPointF(place.topLeft().toPoint())); // on whole pixels it stays sharp
+    return place;
+}
+
+void paintGround(QPainter* painter, const QRect& tile, QStyle::State state)
+{
+    const bool current = state & QStyle::State_Selected;
+    const bool hovered = state & QStyle::State_MouseOver;
+    painter->setPen(QPen(current ? currentColor : frameColor, current ? 2.0 : 1.0));
+    painter->setBrush(current ? currentGround : hovered ? hoverGround : frameGround);
+    painter->drawRoundedRect(QRectF(tile).adjusted(0.5, 0.5, -0.5, -0.5), 5.0, 5.0);
+}
+
+} // namespace
+
+GalleryDelegate::GalleryDelegate(QObject* parent)
+    : QStyledItemDelegate(parent)
+    , m_unreadable(":/viewer/problem.png")
+{
+    const int side = scaledForScreen(64);
+    m_unreadable = m_unreadable.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+}
+
+QSize GalleryDelegate::pictureSize()
+{
+    return QSize(scaledForScreen(160), scaledForScreen(120));
+}
+
+QSize GalleryDelegate::tileSize()
+{
+    const int around = 2 * scaledForScreen(gap + padding);
+    return pictureSize() + QSize(around, around + scaledForScreen(nameHeight));
+}
+
+QSize GalleryDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const
+{
+    return tileSize();
+}
+
+void GalleryDelegate::paint(
+    QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    painter->save();
+    painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    const int around = scaledForScreen(gap);
+    const QRect tile = option.rect.adjusted(around, around, -around, -around);
+    paintGround(painter, tile, option.state);
+
+    const int inside = scaledForScreen(padding);
+    const QRect picture(tile.topLeft() + QPoint(inside, inside), pictureSize());
+    paintPicture(painter, picture, index);
+
+    const QRect name(tile.left() + inside, picture.bottom() + 1, picture.width(),
+        tile.bottom() - picture.bottom());
+    const QString text = index.data().toString().simplified(); // a line feed stays on the line
+    painter->setFont(option.font);
+    painter->setPen(option.state & QStyle::State_Selected ? currentNameColor : nameColor);
+    painter->drawText(
+        name, Qt::AlignCenter, option.fontMetrics.elidedText(text, Qt::ElideMiddle, name.width()));
+    painter->restore();
+}
+
+void GalleryDelegate::paintPicture(
+    QPainter* painter, const QRect& frame, const QModelIndex& index) const
+{
+    if (index.data(GalleryModel::StateRole).toInt() == int(GalleryModel::State::Unreadable)) {
+        painter->setOpacity(unreadableOpacity);
+        const QRectF place = centred(m_unreadable.size(), frame);
+        painter->drawPixmap(place, m_unreadable, m_unreadable.rect());
+        painter->setOpacity(1.0);
+        return;
+    }
+    const auto picture = index.data(GalleryModel::PictureRole).value<QImage>();
+    if (!picture.isNull()) {
+        const qreal ratio = painter->device()->devicePixelRatioF();
+        painter->drawImage(centred(QSizeF(picture.size()) / ratio, frame), picture);
+    }
+}

@@ -1,0 +1,102 @@
+#include "gallerymodel.h"
+
+#include <QDateTime>
+
+GalleryModel::GalleryModel(qint64 byteLimit, QObject* parent)
+    : QAbstractListModel(parent)
+    , m_byteLimit(byteLimit)
+{
+}
+
+/// The entry of a file, with its picture where that is still good.
+GalleryModel::Entry GalleryModel::entryFor(const QFileInfo& file) const
+{
+    const int row = rowOf(file.absoluteFilePath());
+    if (isRow(row)) {
+        const Entry& before = m_entries.at(row);
+        if (before.file.size() == file.size()
+            && before.file.lastModified() == file.lastModified()) {
+            return before;
+        }
+    }
+    Entry entry;
+    entry.file = file;
+    return entry;
+}
+
+void GalleryModel::setFiles(const QFileInfoList& files)
+{
+    beginResetModel();
+    QVector<Entry> entries;
+    entries.reserve(files.size());
+    m_bytes = 0;
+    for (const QFileInfo& file : files) {
+        entries << entryFor(file);
+        m_bytes += entries.last().picture.sizeInBytes();
+    }
+    m_entries = entries;
+    m_rows.clear();
+    for (int row = 0; row < m_entries.size(); ++row) {
+        m_rows.insert(pathAt(row), row);
+    }
+    endResetModel();
+}
+
+QVector<ThumbnailRequest> GalleryModel::waiting() const
+{
+    QVector<ThumbnailRequest> requests;
+    for (int row = 0; row < m_entries.size(); ++row) {
+        if (m_entries.at(row).state == State::Waiting) {
+            requests << ThumbnailRequest { row, pathAt(row) };
+        }
+    }
+    return requests;
+}
+
+bool GalleryModel::setPicture(int row, const QImage& picture)
+{
+    if (!isRow(row)) {
+        return false;
+    }
+    Entry& entry = m_entries[row];
+    const qint64 bytes = m_bytes - entry.picture.sizeInBytes() + picture.sizeInBytes();
+    if (bytes > m_byteLimit) {
+        return false;
+    }
+    m_bytes = bytes;
+    entry.picture = picture;
+    entry.state = picture.isNull() ? State::Unreadable : State::Ready;
+    Q_EMIT dataChanged(index(row), index(row));
+    return true;
+}
+
+QString GalleryModel::pathAt(int row) const
+{
+    return isRow(row) ? m_entries.at(row).file.absoluteFilePath() : QString();
+}
+
+int GalleryModel::rowOf(const QString& path) const
+{
+    return m_rows.value(path, -1);
+}
+
+int GalleryModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : m_entries.size();
+}
+
+QVariant GalleryModel::data(const QModelIndex& index, int role) const
+{
+    if (!isRow(index.row())) {
+        return QVariant();
+    }
+    const Entry& entry = m_entries.at(index.row());
+    switch (role) {
+    case Qt::DisplayRole: return entry.file.fileName();
+    case Qt::ToolTipRole: return entry.file.fileName().toHtmlEscaped();
+    case PathRole: return pathAt(index.row());
+    case PictureRole: return entry.picture;
+    case StateRole: return int(entry.state);
+    }
+    return QVariant();
+}
