@@ -1,7 +1,5 @@
 #include "gallerymodel.h"
 
-#include <QDateTime>
-
 GalleryModel::GalleryModel(qint64 byteLimit, QObject* parent)
     : QAbstractListModel(parent)
     , m_byteLimit(byteLimit)
@@ -11,16 +9,18 @@ GalleryModel::GalleryModel(qint64 byteLimit, QObject* parent)
 /// The entry of a file, with its picture where that is still good.
 GalleryModel::Entry GalleryModel::entryFor(const QFileInfo& file) const
 {
-    const int row = rowOf(file.absoluteFilePath());
+    Entry entry;
+    entry.path = file.absoluteFilePath();
+    entry.name = file.fileName();
+    entry.fileSize = file.size();
+    entry.modified = file.lastModified();
+    const int row = rowOf(entry.path);
     if (isRow(row)) {
         const Entry& before = m_entries.at(row);
-        if (before.file.size() == file.size()
-            && before.file.lastModified() == file.lastModified()) {
+        if (before.fileSize == entry.fileSize && before.modified == entry.modified) {
             return before;
         }
     }
-    Entry entry;
-    entry.file = file;
     return entry;
 }
 
@@ -72,7 +72,7 @@ bool GalleryModel::setPicture(int row, const QImage& picture)
 
 QString GalleryModel::pathAt(int row) const
 {
-    return isRow(row) ? m_entries.at(row).file.absoluteFilePath() : QString();
+    return isRow(row) ? m_entries.at(row).path : QString();
 }
 
 int GalleryModel::rowOf(const QString& path) const
@@ -92,8 +92,8 @@ QVariant GalleryModel::data(const QModelIndex& index, int role) const
     }
     const Entry& entry = m_entries.at(index.row());
     switch (role) {
-    case Qt::DisplayRole: return entry.file.fileName();
-    case Qt::ToolTipRole: return entry.file.fileName().toHtmlEscaped();
+    case Qt::DisplayRole: return entry.name;
+    case Qt::ToolTipRole: return entry.name.toHtmlEscaped();
     case PathRole: return pathAt(index.row());
     case PictureRole: return entry.picture;
     case StateRole: return int(entry.state);

@@ -3,6 +3,7 @@
 #include "thumbnailloader.h"
 
 #include <QAbstractListModel>
+#include <QDateTime>
 #include <QFileInfo>
 #include <QHash>
 
@@ -49,7 +50,10 @@ public:
 private:
     struct Entry
     {
-        QFileInfo file;
+        QString path;
+        QString name;
+        qint64 fileSize = 0; // as of setFiles(), as the date: a QFileInfo would look them up late
+        QDateTime modified;
         QImage picture;
         State state = State::Waiting;
     };

@@ -36,12 +36,6 @@ void settle(const ViewerWindow& window)
     runEvents(settleMilliseconds);
 }
 
-bool openQuietly(ViewerWindow* window, const QString& path)
-{
-    const QuietStandardError quiet;
-    return window->openPath(path);
-}
-
 void waitForGallery(const ViewerWindow& window)
 {
     QElapsedTimer waited;
@@ -49,6 +43,15 @@ void waitForGallery(const ViewerWindow& window)
     while (window.isGalleryLoading() && !waited.hasExpired(galleryMilliseconds)) {
         runEvents(10);
     }
+}
+
+/// Opens what is asked for, a gallery with all its pictures.
+bool openQuietly(ViewerWindow* window, const QString& path)
+{
+    const QuietStandardError quiet;
+    const bool opened = window->openPath(path);
+    waitForGallery(*window);
+    return opened;
 }
 
 QString sizeProblem(const ViewerWindow& window, const QSize& size)
@@ -85,7 +88,6 @@ QString takeScreenshot(ViewerWindow* window, const CommandLine& line)
     if (!openQuietly(window, line.image)) {
         return QString("%1: %2").arg(line.image, window->problem());
     }
-    waitForGallery(*window);
     settle(*window);
     return savePicture(window->grab(), line.screenshot);
 }

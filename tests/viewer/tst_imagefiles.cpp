@@ -20,6 +20,8 @@ private Q_SLOTS:
     void initTestCase();
     void suffixes();
     void filter_listsEverySuffix();
+    void folder_isListedByName();
+    void folder_holdsOnlyRegularImageFiles();
     void problem_data();
     void problem();
     void problem_noPermission();
@@ -83,6 +85,48 @@ void TestImageFiles::filter_listsEverySuffix()
 {
     QCOMPARE(openDialogFilter(),
         QString("Images (*.jpg *.jpeg *.tif *.tiff *.bmp *.png *.raw);;All files (*)"));
+}
+
+void TestImageFiles::folder_isListedByName()
+{
+    const QTemporaryDir folder;
+    const QStringList names { "B.PNG", "a.raw", "frame 1.jpeg", "frame 2.jpg", "frame 10.tif",
+        "frame.bmp", "z.tiff" };
+    for (const QString& name : names) {
+        QFile file(folder.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    QStringList listed;
+    for (const QFileInfo& file : imagesInFolder(folder.path())) {
+        QCOMPARE(file.absolutePath(), folder.path());
+        listed << file.fileName();
+    }
+    QCOMPARE(listed.mid(0, 2), (QStringList { "a.raw", "B.PNG" }));
+    QCOMPARE(
+        listed.filter("frame "), (QStringList { "frame 1.jpeg", "frame 2.jpg", "frame 10.tif" }));
+    QCOMPARE(listed.last(), QString("z.tiff"));
+    QCOMPARE(listed.size(), names.size());
+}
+
+void TestImageFiles::folder_holdsOnlyRegularImageFiles()
+{
+    const QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkdir("folder.png"));
+    for (const char* name : { "notes.txt", "noext", "png", "image.png" }) {
+        QFile file(folder.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+#ifdef Q_OS_UNIX
+    QCOMPARE(mkfifo(qPrintable(folder.filePath("pipe.png")), 0600), 0);
+    QVERIFY(QFile::link(folder.filePath("gone.png"), folder.filePath("dangling.png")));
+    QVERIFY(QFile::link(folder.filePath("pipe.png"), folder.filePath("link to a pipe.png")));
+    QVERIFY(QFile::link(folder.filePath("folder.png"), folder.filePath("link to a folder.png")));
+#endif
+    const QFileInfoList files = imagesInFolder(folder.path());
+    QCOMPARE(files.size(), 1);
+    QCOMPARE(files.first().fileName(), QString("image.png"));
+    QVERIFY(imagesInFolder(folder.filePath("gone")).isEmpty());
+    QVERIFY(imagesInFolder(folder.filePath("image.png")).isEmpty());
 }
 
 void TestImageFiles::problem_data()

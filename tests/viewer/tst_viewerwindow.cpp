@@ -2,6 +2,7 @@
 
 #include "appearance.h"
 #include "cvkintensitywidget.h"
+#include "gallerypage.h"
 #include "pages.h"
 #include "scenes.h"
 
@@ -11,6 +12,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
@@ -66,13 +68,26 @@ private Q_SLOTS:
     void open_anEmptyRawFileReplacesTheWidget();
     void open_afterTheWidgetWasClosed();
     void open_hostileNames();
-    void close_goesBackToTheWelcomePage();
-    void returnButton_closesTheImage();
+    void close_goesBackToTheGallery();
+    void close_withoutAGalleryGoesBackToTheWelcomePage();
+    void returnButton_showsTheGallery();
+    void returnButton_ofAReplacedWidget();
+    void gallerySlot_withoutAFile();
+    void gallery_isNamed();
+    void gallery_opensADoubleClickedImage();
+    void gallery_opensWithEnter();
+    void gallery_ofAnUnreadableImageNamesTheProblem();
+    void gallery_stopsWithTheWindow();
+    void escape_staysInTheImage();
+    void path_ofAFolderShowsTheGallery();
     void menu();
+    void menuGallery_asksForAFolderFirst();
     void dialog_opensTheChosenFile();
+    void dialog_opensTheChosenFolder();
     void drag_takesExactlyOneLocalFile_data();
     void drag_takesExactlyOneLocalFile();
     void drop_opensTheFile();
+    void drop_ofAFolderShowsTheGallery();
     void drop_onTheCanvasReachesTheWindow();
     void longNames_doNotWidenTheWindow();
     void minimumSize_holdsColumnAndCanvas();
@@ -80,6 +95,9 @@ private Q_SLOTS:
 private:
     CVKIntensityWidget* intensity() const { return m_window->findChild<CVKIntensityWidget*>(); }
     QWidget* page() const { return m_window->findChild<QStackedWidget*>("pages")->currentWidget(); }
+    GalleryPage* gallery() const { return m_window->findChild<GalleryPage*>(); }
+    QListView* galleryView() const { return m_window->findChild<QListView*>("galleryView"); }
+    QPushButton* returnButton() const { return intensity()->findChild<QPushButton*>("Return"); }
     QString status(const char* name) const { return m_window->findChild<QLabel*>(name)->text(); }
     QString path(const QString& name) const { return m_folder.filePath(name); }
     void write(const QString& name, const QByteArray& bytes);
@@ -241,35 +259,176 @@ void TestViewerWindow::open_hostileNames()
     QCOMPARE(m_window->size(), QSize(1000, 700));
 }
 
-void TestViewerWindow::close_goesBackToTheWelcomePage()
+void TestViewerWindow::close_goesBackToTheGallery()
 {
     QVERIFY(m_window->openFile(path("lamp.raw")));
+    QTest::keyClick(m_window.get(), Qt::Key_W, Qt::ControlModifier);
+    QCOMPARE(page(), gallery());
+    QCOMPARE(gallery()->currentPath(), path("lamp.raw"));
+    QVERIFY(!m_window->openFile(path("fake.raw"))); // a problem is closed in the same way
     m_window->closeFile();
+    QCOMPARE(page(), gallery());
+    QVERIFY(m_window->problem().isEmpty());
+    QTest::keyClick(m_window.get(), Qt::Key_W, Qt::ControlModifier); // and the gallery after it
     QVERIFY(qobject_cast<WelcomePage*>(page()));
+    QVERIFY(!gallery()->isLoading());
     QCOMPARE(m_window->windowTitle(), QString("VKIntensity Viewer"));
-    QVERIFY(status("statusImageSize").isEmpty());
+    QCOMPARE(status("statusFileName"), QString("No image"));
     m_window->closeFile(); // without an image nothing happens
+    QVERIFY(qobject_cast<WelcomePage*>(page()));
     QVERIFY(m_window->openFile(path("lamp.raw")));
 }
 
-void TestViewerWindow::returnButton_closesTheImage()
+void TestViewerWindow::close_withoutAGalleryGoesBackToTheWelcomePage()
+{
+    QVERIFY(!m_window->openFile(path("no such folder/a.png")));
+    m_window->closeFile();
+    QVERIFY(qobject_cast<WelcomePage*>(page()));
+}
+
+void TestViewerWindow::returnButton_showsTheGallery()
 {
     QVERIFY(m_window->openFile(path("lamp.raw")));
+    QTest::mouseClick(returnButton(), Qt::LeftButton);
+    QCOMPARE(page(), gallery());
+    QCOMPARE(gallery()->folder(), m_folder.path());
+    QCOMPARE(gallery()->currentPath(), path("lamp.raw"));
+    QVERIFY(galleryView()->hasFocus());
+    QVERIFY(!returnButton()->isChecked());
+    QVERIFY(m_window->openFile(path("rings.raw"))); // and again, with another file
+    QTest::mouseClick(returnButton(), Qt::LeftButton);
+    QCOMPARE(gallery()->currentPath(), path("rings.raw"));
+    QVERIFY(!returnButton()->isChecked());
+}
+
+void TestViewerWindow::returnButton_ofAReplacedWidget()
+{
+    QVERIFY(!m_window->openFile(path("empty.raw")));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(m_window->openFile(path("lamp.raw")));
+    QTest::mouseClick(returnButton(), Qt::LeftButton);
+    QCOMPARE(page(), gallery());
+}
+
+void TestViewerWindow::gallerySlot_withoutAFile()
+{
     QVERIFY(QMetaObject::invokeMethod(m_window.get(), "sltSwitchToGallery"));
     QVERIFY(qobject_cast<WelcomePage*>(page()));
+}
+
+void TestViewerWindow::gallery_isNamed()
+{
+    m_window->showGallery(m_folder.path());
+    const QString name = QDir(m_folder.path()).dirName();
+    QCOMPARE(m_window->windowTitle(), name + " - VKIntensity Viewer");
+    QCOMPARE(status("statusFileName"), QDir::toNativeSeparators(m_folder.path()));
+    QVERIFY(status("statusImageSize").isEmpty());
+    QVERIFY(m_window->problem().isEmpty());
+    QVERIFY(m_window->isGalleryLoading());
+    QTRY_VERIFY(!m_window->isGalleryLoading());
+}
+
+void TestViewerWindow::gallery_opensADoubleClickedImage()
+{
+    m_window->showGallery(m_folder.path());
+    const int row = galleryView()->model()->rowCount() - 1;
+    const QModelIndex last = galleryView()->model()->index(row, 0);
+    QCOMPARE(last.data().toString(), QString("rings.raw"));
+    const QPoint centre = galleryView()->visualRect(last).center();
+    QTest::mouseClick(galleryView()->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
+    QCOMPARE(page(), gallery());
+    QTest::mouseDClick(galleryView()->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
+    QCOMPARE(page(), intensity());
+    QCOMPARE(m_window->windowTitle(), QString("rings.raw - VKIntensity Viewer"));
+}
+
+void TestViewerWindow::gallery_opensWithEnter()
+{
+    QVERIFY(m_window->openFile(path("lamp.raw")));
+    const QImage direct = pictureOf(m_window.get());
+    QTest::mouseClick(returnButton(), Qt::LeftButton);
+    QTest::keyClick(galleryView(), Qt::Key_Return);
+    QCOMPARE(page(), intensity());
+    QCOMPARE(pictureOf(m_window.get()), direct); // everything stands as after the first time
+}
+
+void TestViewerWindow::gallery_ofAnUnreadableImageNamesTheProblem()
+{
+    QVERIFY(!m_window->openFile(path("fake.png")));
+    QTest::keyClick(m_window.get(), Qt::Key_G, Qt::ControlModifier);
+    QCOMPARE(page(), gallery());
+    QTest::keyClick(galleryView(), Qt::Key_Return);
+    QVERIFY(qobject_cast<LoadProblemPage*>(page()));
+    QCOMPARE(m_window->windowTitle(), QString("fake.png - VKIntensity Viewer"));
+}
+
+void TestViewerWindow::gallery_stopsWithTheWindow()
+{
+    m_window->showGallery(m_folder.path());
+    QVERIFY(m_window->isGalleryLoading());
+    m_window->close();
+    QVERIFY(!m_window->isGalleryLoading());
+}
+
+void TestViewerWindow::escape_staysInTheImage()
+{
+    QVERIFY(m_window->openFile(path("lamp.raw")));
+    QTest::keyClick(m_window.get(), Qt::Key_Escape);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    QCOMPARE(page(), intensity());
+}
+
+void TestViewerWindow::path_ofAFolderShowsTheGallery()
+{
+    QVERIFY(m_window->openPath(m_folder.path()));
+    QCOMPARE(page(), gallery());
+    QVERIFY(m_window->openPath(path("lamp.raw")));
+    QCOMPARE(page(), intensity());
+    QVERIFY(!m_window->openPath(path("gone")));
+    QVERIFY(qobject_cast<LoadProblemPage*>(page()));
+    QVERIFY(!m_window->openPath(QString()));
+    QVERIFY(qobject_cast<LoadProblemPage*>(page()));
 }
 
 void TestViewerWindow::menu()
 {
     const QMenuBar* bar = m_window->menuBar();
     QCOMPARE(bar->actions().size(), 1);
-    const QList<QAction*> actions = bar->actions().first()->menu()->actions();
-    QCOMPARE(actions.at(0)->shortcut(), QKeySequence(QKeySequence::Open));
+    QStringList texts;
+    QHash<QString, QAction*> actions;
+    for (QAction* action : bar->actions().first()->menu()->actions()) {
+        texts << action->text();
+        actions.insert(action->text(), action);
+    }
+    QCOMPARE(texts,
+        (QStringList { "&Open...", "Open &Folder...", "&Gallery", "", "&Close", "", "&Quit" }));
+    QCOMPARE(actions["&Open..."]->shortcut(), QKeySequence(QKeySequence::Open));
+    QCOMPARE(actions["Open &Folder..."]->shortcut(), QKeySequence("Ctrl+Shift+O"));
+    QCOMPARE(actions["&Gallery"]->shortcut(), QKeySequence("Ctrl+G"));
     QVERIFY(m_window->openFile(path("lamp.raw")));
-    actions.at(1)->trigger(); // Close
+    actions["&Gallery"]->trigger();
+    QCOMPARE(page(), gallery());
+    actions["&Close"]->trigger();
     QVERIFY(qobject_cast<WelcomePage*>(page()));
-    actions.at(3)->trigger(); // Quit
+    actions["&Gallery"]->trigger(); // still knows the folder
+    QCOMPARE(page(), gallery());
+    actions["&Quit"]->trigger();
     QVERIFY(!m_window->isVisible());
+}
+
+void TestViewerWindow::menuGallery_asksForAFolderFirst()
+{
+    bool asked = false;
+    QTimer::singleShot(0, this, [&asked] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        asked = true;
+        dialog->reject();
+    });
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QTest::keyClick(m_window.get(), Qt::Key_G, Qt::ControlModifier);
+    QVERIFY(asked);
+    QVERIFY(qobject_cast<WelcomePage*>(page()));
 }
 
 void TestViewerWindow::dialog_opensTheChosenFile()
@@ -283,6 +442,25 @@ void TestViewerWindow::dialog_opensTheChosenFile()
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QTest::mouseClick(page()->findChild<QPushButton*>("pageOpenButton"), Qt::LeftButton);
     QCOMPARE(page(), intensity());
+}
+
+void TestViewerWindow::dialog_opensTheChosenFolder()
+{
+    const QTemporaryDir empty;
+    m_window->showGallery(empty.path());
+    bool onlyFolders = false;
+    QTimer::singleShot(0, this, [this, &onlyFolders] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        onlyFolders = dialog->testOption(QFileDialog::ShowDirsOnly);
+        dialog->findChild<QLineEdit*>()->setText(m_folder.path());
+        static_cast<QDialog*>(dialog)->accept();
+    });
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QTest::mouseClick(page()->findChild<QPushButton*>("pageFolderButton"), Qt::LeftButton);
+    QVERIFY(onlyFolders);
+    QCOMPARE(gallery()->folder(), m_folder.path());
+    QVERIFY(galleryView()->isVisible());
 }
 
 void TestViewerWindow::drag_takesExactlyOneLocalFile_data()
@@ -317,6 +495,15 @@ void TestViewerWindow::drop_opensTheFile()
     dropOnto(m_window.get(), data);
     QTRY_COMPARE(page(), intensity());
     QCOMPARE(m_window->windowTitle(), QString("lamp.raw - VKIntensity Viewer"));
+}
+
+void TestViewerWindow::drop_ofAFolderShowsTheGallery()
+{
+    QMimeData data;
+    data.setUrls({ QUrl::fromLocalFile(m_folder.path()) });
+    dropOnto(m_window.get(), data);
+    QTRY_COMPARE(page(), gallery());
+    QCOMPARE(gallery()->folder(), m_folder.path());
 }
 
 void TestViewerWindow::drop_onTheCanvasReachesTheWindow()

@@ -21,6 +21,9 @@ private Q_SLOTS:
     void screenshot_ofEverySample();
     void screenshot_atOtherResolutions_data();
     void screenshot_atOtherResolutions();
+    void screenshot_ofAGallery_data();
+    void screenshot_ofAGallery();
+    void screenshot_ofAGalleryOfHostileFiles();
     void screenshot_withoutADisplay();
     void failures_data();
     void failures();
@@ -93,7 +96,7 @@ QString TestVkviewer::written(const QString& name, const QByteArray& bytes)
 void TestVkviewer::help()
 {
     QCOMPARE(run({ "--help" }, { { "QT_QPA_PLATFORM", "no such platform" } }), 0);
-    QVERIFY(m_output.startsWith("Usage: vkviewer [IMAGE]\n"));
+    QVERIFY(m_output.startsWith("Usage: vkviewer [IMAGE | FOLDER]\n"));
     QVERIFY(m_errors.isEmpty());
 }
 
@@ -149,6 +152,48 @@ void TestVkviewer::screenshot_atOtherResolutions()
     const int y = 400;
     QCOMPARE(QColor(window.pixel(columnWidth - 1, y)), QColor(9, 11, 14));
     QCOMPARE(QColor(window.pixel(columnWidth - 2, y)), QColor(63, 73, 86));
+}
+
+void TestVkviewer::screenshot_ofAGallery_data()
+{
+    QTest::addColumn<QString>("dotsPerInch");
+    QTest::newRow("96") << "96";
+    QTest::newRow("144") << "144";
+}
+
+void TestVkviewer::screenshot_ofAGallery()
+{
+    QFETCH(QString, dotsPerInch);
+    const QString picture = path("gallery.png");
+    QCOMPARE(run({ "--screenshot", picture, "--size", "900x700", VKINTENSITY_SAMPLES },
+                 { { "QT_FONT_DPI", dotsPerInch } }),
+        0);
+    QVERIFY2(m_errors.isEmpty(), m_errors.constData());
+    const QImage window(picture);
+    QCOMPARE(window.size(), QSize(900, 700));
+    // The pictures are there: the chart's first patch is the only red of the window.
+    int red = 0;
+    for (int y = 0; y < window.height(); ++y) {
+        for (int x = 0; x < window.width(); ++x) {
+            const QColor color = window.pixelColor(x, y);
+            red += color.red() > 200 && color.green() < 60 && color.blue() < 60;
+        }
+    }
+    QVERIFY(red > 300);
+}
+
+void TestVkviewer::screenshot_ofAGalleryOfHostileFiles()
+{
+    const QTemporaryDir folder;
+    for (const char* name : { "cut.png", "corrupt.png", "zeros.tif", "huge.raw", "text.jpg" }) {
+        QFile file(folder.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content(sample("colour-chart.png")).left(5000));
+    }
+    const QString picture = path("hostile.png");
+    QCOMPARE(run({ "--screenshot", picture, folder.path() }), 0);
+    QVERIFY2(m_errors.isEmpty(), m_errors.constData()); // nothing of the codecs' own
+    QVERIFY(!QImage(picture).isNull());
 }
 
 void TestVkviewer::screenshot_withoutADisplay()

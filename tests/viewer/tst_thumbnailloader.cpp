@@ -1,0 +1,202 @@
+#include "thumbnailloader.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QThread>
+#include <QtTest>
+
+Q_DECLARE_METATYPE(QImage)
+
+/// Batches of pictures made in other threads.
+class TestThumbnailLoader : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void everyRow_isAnnouncedOnceHere();
+    void unreadable_isAnnouncedAsNull();
+    void emptyBatch_announcesNothing();
+    void cancel_silencesTheBatch();
+    void cancel_insideTheAnnouncement();
+    void newBatch_replacesTheOld();
+    void newBatch_startedByTheLastAnnouncement();
+    void preferred_comeFirst();
+    void preferred_outsideTheBatch();
+    void destroyedWhileLoading();
+
+private:
+    QVector<ThumbnailRequest> requests(int count) const;
+
+    QTemporaryDir m_folder;
+    const QSize m_bounds { 40, 30 };
+};
+
+void TestThumbnailLoader::initTestCase()
+{
+    QImage image(400, 300, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QVERIFY(image.save(m_folder.filePath("red.png")));
+}
+
+/// The same file again and again, with the rows 10, 11 and so on.
+QVector<ThumbnailRequest> TestThumbnailLoader::requests(int count) const
+{
+    QVector<ThumbnailRequest> all;
+    for (int i = 0; i < count; ++i) {
+        all << ThumbnailRequest { 10 + i, m_folder.filePath("red.png") };
+    }
+    return all;
+}
+
+void TestThumbnailLoader::everyRow_isAnnouncedOnceHere()
+{
+    ThumbnailLoader loader;
+    QSignalSpy finished(&loader, SIGNAL(finished()));
+    QMap<int, int> times;
+    connect(&loader, &ThumbnailLoader::loaded, this, [&](int row, const QImage& picture) {
+        QCOMPARE(QThread::currentThread(), thread());
+        QCOMPARE(picture.size(), QSize(40, 30));
+        QCOMPARE(picture.pixel(20, 15), qRgb(255, 0, 0));
+        QVERIFY(loader.isLoading());
+        QVERIFY(finished.isEmpty());
+        ++times[row];
+    });
+    QVERIFY(!loader.isLoading());
+    loader.start(requests(20), m_bounds);
+    QVERIFY(loader.isLoading());
+    QVERIFY(times.isEmpty()); // nothing before the events run
+    QTRY_COMPARE(finished.size(), 1);
+    QVERIFY(!loader.isLoading());
+    QCOMPARE(times.size(), 20);
+    for (int row = 10; row < 30; ++row) {
+        QCOMPARE(times.value(row), 1);
+    }
+}
+
+void TestThumbnailLoader::unreadable_isAnnouncedAsNull()
+{
+    ThumbnailLoader loader;
+    QSignalSpy loaded(&loader, SIGNAL(loaded(int, QImage)));
+    QSignalSpy finished(&loader, SIGNAL(finished()));
+    loader.start({ { 3, m_folder.filePath("gone.png") } }, m_bounds);
+    QTRY_COMPARE(finished.size(), 1);
+    QCOMPARE(loaded.size(), 1);
+    QCOMPARE(loaded.first().at(0).toInt(), 3);
+    QVERIFY(loaded.first().at(1).value<QImage>().isNull());
+}
+
+void TestThumbnailLoader::emptyBatch_announcesNothing()
+{
+    ThumbnailLoader loader;
+    QSignalSpy finished(&loader, SIGNAL(finished()));
+    loader.start({}, m_bounds);
+    QVERIFY(!loader.isLoading());
+    QTest::qWait(20);
+    QVERIFY(finished.isEmpty());
+}
+
+void TestThumbnailLoader::cancel_silencesTheBatch()
+{
+    ThumbnailLoader loader;
+    QSignalSpy loaded(&loader, SIGNAL(loaded(int, QImage)));
+    QSignalSpy finished(&loader, SIGNAL(finished()));
+    loader.start(requests(50), m_bounds);
+    QTest::qSleep(30); // some pictures are ready and wait to be announced
+    loader.cancel();
+    QVERIFY(!loader.isLoading());
+    QTest::qWait(100);
+    QVERIFY(loaded.isEmpty());
+    QVERIFY(finished.isEmpty());
+    loader.cancel(); // twice is harmless
+}
+
+void TestThumbnailLoader::cancel_insideTheAnnouncement()
+{
+    ThumbnailLoader loader;
+    int count = 0;
+    QSignalSpy finished(&loader, SIGNAL(finished()));
+    connect(&loader, &ThumbnailLoader::loaded, this, [&] {
+        if (++count == 3) {
+            loader.cancel();
+        }
+    });
+    loader.start(requests(50), m_bounds);
+    QTRY_COMPARE(count, 3);
+    QTest::qWait(50);
+    QCOMPARE(count, 3);
+    QVERIFY(finished.isEmpty());
+}
+
+void TestThumbnailLoader::newBatch_replacesTheOld()
+{
+    ThumbnailLoader loader;
+    QSignalSpy loaded(&loader, SIGNAL(loaded(int, QImage)));
+    QSignalSpy finished(&loader, SIGNAL(finished()));
+    loader.start(requests(50), m_bounds);
+    QTest::qSleep(20);
+    loader.start({ { 7, m_folder.filePath("red.png") } }, QSize(20, 20));
+    QTRY_COMPARE(finished.size(), 1);
+    QTest::qWait(50);
+    QCOMPARE(loaded.size(), 1);
+    QCOMPARE(loaded.first().at(0).toInt(), 7);
+    QCOMPARE(loaded.first().at(1).value<QImage>().size(), QSize(20, 15));
+}
+
+void TestThumbnailLoader::newBatch_startedByTheLastAnnouncement()
+{
+    ThumbnailLoader loader;
+    QSignalSpy finished(&loader, SIGNAL(finished()));
+    QVector<int> rows;
+    connect(&loader, &ThumbnailLoader::loaded, this, [&](int row) {
+        rows << row;
+        if (row == 10) {
+            loader.start({ { 99, m_folder.filePath("red.png") } }, m_bounds);
+        }
+    });
+    loader.start(requests(1), m_bounds);
+    QTRY_COMPARE(finished.size(), 1);
+    QCOMPARE(rows, (QVector<int> { 10, 99 }));
+}
+
+void TestThumbnailLoader::preferred_comeFirst()
+{
+    ThumbnailLoader loader;
+    QSignalSpy finished(&loader, SIGNAL(finished()));
+    QVector<int> rows;
+    connect(&loader, &ThumbnailLoader::loaded, this, [&](int row) { rows << row; });
+    loader.start(requests(200), m_bounds);
+    loader.preferFrom(150);
+    QTRY_COMPARE(finished.size(), 1);
+    QCOMPARE(rows.size(), 200);
+    QVERIFY(rows.indexOf(151) < rows.indexOf(149));
+    QVERIFY(rows.indexOf(209) < rows.indexOf(149)); // to the end, then from the start
+    QVERIFY(rows.indexOf(100) < rows.indexOf(149));
+}
+
+void TestThumbnailLoader::preferred_outsideTheBatch()
+{
+    ThumbnailLoader loader;
+    QSignalSpy finished(&loader, SIGNAL(finished()));
+    loader.preferFrom(5); // without a batch
+    for (const int row : { -1, 0, 12, 1000 }) {
+        loader.start(requests(5), m_bounds);
+        loader.preferFrom(row);
+        QTRY_COMPARE(finished.size(), 1);
+        finished.clear();
+    }
+}
+
+void TestThumbnailLoader::destroyedWhileLoading()
+{
+    for (int i = 1; i < 20; ++i) {
+        ThumbnailLoader loader;
+        connect(&loader, &ThumbnailLoader::loaded, this, [] { QFAIL("nobody ran the events"); });
+        loader.start(requests(100), m_bounds);
+        QTest::qSleep(i);
+    }
+    QTest::qWait(20);
+}
+
+QTEST_GUILESS_MAIN(TestThumbnailLoader)
+#include "tst_thumbnailloader.moc"
