@@ -1,32 +1,105 @@
 #include "commandline.h"
 
+#include <QHash>
 #include <QRegularExpression>
 
 namespace {
 
-/// Takes the value behind the option at the front of `rest`; false when there is none.
-bool takeValue(QStringList* rest, QString* value)
+QString readSize(const QString& value, CommandLine* line)
 {
-    if (rest->isEmpty() || rest->first().isEmpty()) {
-        return false;
-    }
-    *value = rest->takeFirst();
-    return true;
+    line->size = parsedSize(value);
+    return line->size.isValid()
+        ? QString()
+        : QString("--size needs WIDTHxHEIGHT, each from 1 to %1").arg(maxScreenshotExtent);
 }
 
+QString readView(const QString& value, CommandLine* line)
+{
+    line->controls.view = value.toLower();
+    const bool known = QStringList { "image", "x", "y" }.contains(line->controls.view);
+    return known ? QString() : QStringLiteral("--view needs image, x or y");
+}
+
+QString readPeaks(const QString& value, CommandLine* line)
+{
+    line->controls.peakCount = parsedNumbers(value, 1).value(0);
+    const bool inside = line->controls.peakCount >= 1 && line->controls.peakCount <= maxPeakCount;
+    return inside ? QString() : QString("--peaks needs a number from 1 to %1").arg(maxPeakCount);
+}
+
+QString readPalette(const QString& value, CommandLine* line)
+{
+    line->controls.palette = value.toLower();
+    const QStringList palettes { "gray", "red", "green", "blue", "color" };
+    return palettes.contains(line->controls.palette)
+        ? QString()
+        : QStringLiteral("--palette needs gray, red, green, blue or color");
+}
+
+/// Takes the unit off the end of a wavelength, if there is one.
+QString takenUnit(QString* value)
+{
+    for (const char* unit : { "um", "nm" }) {
+        if (value->endsWith(QString(",") + unit)) {
+            value->chop(3);
+            return unit;
+        }
+    }
+    return QString();
+}
+
+QString readWavelength(const QString& value, CommandLine* line)
+{
+    QString text = value;
+    ControlSettings& controls = line->controls;
+    controls.hasWavelength = true;
+    controls.wavelengthUnit = takenUnit(&text);
+    const QVector<int> numbers = parsedNumbers(text, 2);
+    controls.wavelengthStart = numbers.value(0);
+    controls.pixelWidth = numbers.value(1);
+    const bool inside = controls.wavelengthStart <= maxWavelengthStart && controls.pixelWidth >= 1
+        && controls.pixelWidth <= maxPixelWidth;
+    return inside
+        ? QString()
+        : QString("--wavelength needs START,WIDTH[,um|nm], START from 0 to %1, WIDTH from 1 to %2")
+              .arg(maxWavelengthStart)
+              .arg(maxPixelWidth);
+}
+
+QString readRegion(const QString& value, CommandLine* line)
+{
+    const QVector<int> numbers = parsedNumbers(value, 4);
+    const QRect region(numbers.value(0), numbers.value(1), numbers.value(2), numbers.value(3));
+    line->controls.regions << region;
+    return region.isEmpty()
+        ? QStringLiteral("--roi needs X,Y,WIDTH,HEIGHT in pixels from the top left")
+        : QString();
+}
+
+QString readScreenshot(const QString& value, CommandLine* line)
+{
+    line->screenshot = value;
+    return value.isEmpty() ? QStringLiteral("--screenshot needs a file name") : QString();
+}
+
+/// Each reads the value behind its option, which is empty when there is none.
 QString readOption(const QString& option, QStringList* rest, CommandLine* line)
 {
-    QString value;
-    if (option == "--screenshot") {
-        return takeValue(rest, &line->screenshot) ? QString() : "--screenshot needs a file name";
+    using Reader = QString (*)(const QString&, CommandLine*);
+    static const QHash<QString, Reader> readers {
+        { "--screenshot", readScreenshot },
+        { "--size", readSize },
+        { "--view", readView },
+        { "--peaks", readPeaks },
+        { "--palette", readPalette },
+        { "--roi", readRegion },
+        { "--wavelength", readWavelength },
+    };
+    const Reader reader = readers.value(option);
+    if (!reader) {
+        return QString("unknown option %1 (see --help)").arg(option);
     }
-    if (option == "--size") {
-        line->size = takeValue(rest, &value) ? parsedSize(value) : QSize();
-        return line->size.isValid()
-            ? QString()
-            : QString("--size needs WIDTHxHEIGHT, each from 1 to %1").arg(maxScreenshotExtent);
-    }
-    return QString("unknown option %1 (see --help)").arg(option);
+    return reader(rest->isEmpty() ? QString() : rest->takeFirst(), line);
 }
 
 QString readImage(const QString& path, CommandLine* line)
@@ -41,9 +114,21 @@ QString readImage(const QString& path, CommandLine* line)
 QString contradiction(const CommandLine& line)
 {
     if (line.screenshot.isEmpty()) {
-        return line.size.isValid() ? QStringLiteral("--size goes with --screenshot") : QString();
+        if (line.size.isValid()) {
+            return QStringLiteral("--size goes with --screenshot");
+        }
+        return line.controls.isEmpty()
+            ? QString()
+            : QStringLiteral("--view, --peaks, --palette, --roi and --wavelength go with "
+                             "--screenshot");
     }
-    return line.image.isEmpty() ? QStringLiteral("--screenshot needs an image to show") : QString();
+    if (line.image.isEmpty()) {
+        return QStringLiteral("--screenshot needs an image to show");
+    }
+    const bool chart = line.controls.view == "x" || line.controls.view == "y";
+    return line.controls.peakCount > 0 && !chart
+        ? QStringLiteral("--peaks goes with --view x or --view y")
+        : QString();
 }
 
 } // namespace
@@ -79,11 +164,25 @@ QSize parsedSize(const QString& text)
     return match.hasMatch() && inside ? size : QSize();
 }
 
+QVector<int> parsedNumbers(const QString& text, int count)
+{
+    static const QRegularExpression pattern("\\A[0-9]{1,5}\\z");
+    const QStringList parts = text.split(',');
+    QVector<int> numbers;
+    for (const QString& part : parts) {
+        if (!pattern.match(part).hasMatch() || parts.size() != count) {
+            return {};
+        }
+        numbers << part.toInt();
+    }
+    return numbers;
+}
+
 QString commandLineHelp()
 {
     return QStringLiteral(
         "Usage: vkviewer [IMAGE | FOLDER]\n"
-        "       vkviewer --screenshot FILE.png [--size WIDTHxHEIGHT] IMAGE | FOLDER\n"
+        "       vkviewer --screenshot FILE.png [OPTIONS] IMAGE | FOLDER\n"
         "\n"
         "Shows a camera image with its intensity profiles, rulers and palette.\n"
         "IMAGE is a jpg, jpeg, tif, tiff, bmp or png picture or a raw camera file; of a FOLDER\n"
@@ -91,6 +190,14 @@ QString commandLineHelp()
         "\n"
         "  --screenshot FILE.png   save the window as a picture and exit\n"
         "  --size WIDTHxHEIGHT     size of that window in pixels\n"
+        "  --view image|x|y        show the image, or its row or column as a chart\n"
+        "  --peaks N               label the N strongest peaks of the chart, 1 to 200\n"
+        "  --palette NAME          gray, red, green, blue or color\n"
+        "  --roi X,Y,WIDTH,HEIGHT  mark a region, in pixels from the top left; can be given more\n"
+        "                          than once, and prints what became of it on the screen\n"
+        "  --wavelength START,WIDTH[,UNIT]\n"
+        "                          label the axis in wavelengths: that of the first pixel, 0 to\n"
+        "                          2000, what each pixel adds, 1 to 100, and the unit, um or nm\n"
         "  --help                  show this text\n"
         "  --version               show the version\n");
 }

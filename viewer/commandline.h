@@ -1,5 +1,7 @@
 #pragma once
 
+#include "controlsettings.h"
+
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -10,6 +12,7 @@ struct CommandLine
     QString image; ///< file to open, or folder to show; empty: none
     QString screenshot; ///< file to save the window to; empty: an ordinary session
     QSize size; ///< window size in pixels; not valid: the default
+    ControlSettings controls; ///< of the panel, for a screenshot
     QString error; ///< one line; empty when the arguments make sense
 };
 
@@ -21,6 +24,9 @@ CommandLine parsedCommandLine(const QStringList& arguments);
 
 /// "WxH" as a size; not valid unless both are whole numbers from 1 to maxScreenshotExtent.
 QSize parsedSize(const QString& text);
+
+/// "A,B,..." as exactly `count` whole numbers from 0 on; empty for everything else.
+QVector<int> parsedNumbers(const QString& text, int count);
 
 /// The text of --help.
 QString commandLineHelp();

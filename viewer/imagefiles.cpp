@@ -1,10 +1,12 @@
 #include "imagefiles.h"
 
 #include "rawframe.h"
+#include "tiffheader.h"
 
 #include <QCollator>
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
 
@@ -82,19 +84,36 @@ QString rawProblem(const QString& path)
         .arg(header.bytesPerChannel);
 }
 
-QString sizeText(int width, int height)
-{
-    return text("%1 × %2 pixels").arg(width).arg(height);
-}
-
-QString rawSummary(const QString& path)
+QSize rawSize(const QString& path)
 {
     RawHeader header;
-    if (readRawHeader(path, &header) != RawFileError::None) {
-        return QString();
+    const bool read = readRawHeader(path, &header) == RawFileError::None;
+    return read ? QSize(header.width, header.height) : QSize();
+}
+
+/// Depth of a raw frame, behind its size.
+QString rawDepth(const QString& path)
+{
+    RawHeader header;
+    const bool read = readRawHeader(path, &header) == RawFileError::None;
+    return read ? "   " + text("%1 bit").arg(header.bytesPerChannel * 8) : QString();
+}
+
+/// Qt knows TIFF only where a plugin is installed.
+QSize commonSize(const QString& path)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
+        return QSize();
     }
-    const QString depth = text("%1 bit").arg(header.bytesPerChannel * 8);
-    return sizeText(header.width, header.height) + "   " + depth;
+    TiffHeader header;
+    if (readTiffHeader(&file, &header)) {
+        return QSize(int(header.width), int(header.height));
+    }
+    file.seek(0);
+    QImageReader reader(&file);
+    reader.setDecideFormatFromContent(true);
+    return reader.size();
 }
 
 /// Sorts by name as a person would, the same in every language.
@@ -171,11 +190,18 @@ bool isHugeRawFileCutShort(const QString& path)
     return pixelByteCount(header) > hugeByteCount && held < pixelByteCount(header);
 }
 
+QSize imageSize(const QString& path)
+{
+    const QSize size = suffixOf(path) == "raw" ? rawSize(path) : commonSize(path);
+    return size.isEmpty() ? QSize() : size;
+}
+
 QString imageSummary(const QString& path)
 {
-    if (suffixOf(path) == "raw") {
-        return rawSummary(path);
+    const QSize size = imageSize(path);
+    if (size.isEmpty()) {
+        return QString();
     }
-    const QSize size = QImageReader(path).size();
-    return size.isValid() ? sizeText(size.width(), size.height()) : QString();
+    const QString extent = text("%1 × %2 pixels").arg(size.width()).arg(size.height());
+    return suffixOf(path) == "raw" ? extent + rawDepth(path) : extent;
 }

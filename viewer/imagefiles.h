@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFileInfo>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -27,6 +28,9 @@ bool isRawFileWithoutPixels(const QString& path);
 /// claims more than 256 MiB of pixels, and the file does not hold them. A few bytes could else ask
 /// for many gigabytes. Smaller files load however short they are.
 bool isHugeRawFileCutShort(const QString& path);
+
+/// Size in pixels as the file's header says it; empty when it cannot be told.
+QSize imageSize(const QString& path);
 
 /// Size and, where it is known without reading the pixels, depth; empty when neither is.
 QString imageSummary(const QString& path);

@@ -96,6 +96,10 @@ int main(int argc, char* argv[])
     if (line.screenshot.isEmpty()) {
         return runWindow(&window, line.image);
     }
-    const QString problem = takeScreenshot(&window, line);
+    QStringList report;
+    const QString problem = takeScreenshot(&window, line, &report);
+    for (const QString& reported : report) {
+        std::puts(qUtf8Printable(reported));
+    }
     return problem.isEmpty() ? 0 : fail(problem);
 }

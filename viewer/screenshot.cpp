@@ -1,6 +1,9 @@
 #include "screenshot.h"
 
 #include "commandline.h"
+#include "controldriver.h"
+#include "cvkintensitywidget.h"
+#include "imagefiles.h"
 #include "quietstderr.h"
 #include "viewerwindow.h"
 
@@ -63,6 +66,45 @@ QString sizeProblem(const ViewerWindow& window, const QSize& size)
     return QString("the window is at least %1x%2 pixels").arg(least.width()).arg(least.height());
 }
 
+QString regionProblem(const QVector<QRect>& regions, const QSize& imageSize)
+{
+    if (!regions.isEmpty() && imageSize.isEmpty()) {
+        return QStringLiteral("the size of the image cannot be told");
+    }
+    for (const QRect& region : regions) {
+        if (!QRect(QPoint(), imageSize).contains(region)) {
+            return QString("the region %1,%2,%3,%4 does not lie inside the image of %5x%6 pixels")
+                .arg(region.x())
+                .arg(region.y())
+                .arg(region.width())
+                .arg(region.height())
+                .arg(imageSize.width())
+                .arg(imageSize.height());
+        }
+    }
+    return QString();
+}
+
+QString setControls(ViewerWindow* window, const CommandLine& line, QStringList* report)
+{
+    auto* intensityWidget = window->findChild<CVKIntensityWidget*>();
+    if (!intensityWidget || !intensityWidget->isVisible()) {
+        return QString("%1: only an image has controls to set").arg(line.image);
+    }
+    const QSize size = imageSize(line.image);
+    const QString outside = regionProblem(line.controls.regions, size);
+    if (!outside.isEmpty()) {
+        return QString("%1: %2").arg(line.image, outside);
+    }
+    ControlDriver driver(intensityWidget, size);
+    const QString problem = driver.apply(line.controls);
+    *report = driver.report();
+    if (QWidget* focused = window->focusWidget()) {
+        focused->clearFocus(); // no cursor blinks in the picture
+    }
+    return problem;
+}
+
 QString savePicture(const QPixmap& picture, const QString& path)
 {
     QSaveFile file(path);
@@ -74,7 +116,7 @@ QString savePicture(const QPixmap& picture, const QString& path)
 
 } // namespace
 
-QString takeScreenshot(ViewerWindow* window, const CommandLine& line)
+QString takeScreenshot(ViewerWindow* window, const CommandLine& line, QStringList* report)
 {
     const QString tooSmall = sizeProblem(*window, line.size);
     if (!tooSmall.isEmpty()) {
@@ -89,5 +131,12 @@ QString takeScreenshot(ViewerWindow* window, const CommandLine& line)
         return QString("%1: %2").arg(line.image, window->problem());
     }
     settle(*window);
+    if (!line.controls.isEmpty()) {
+        const QString problem = setControls(window, line, report);
+        if (!problem.isEmpty()) {
+            return problem;
+        }
+        settle(*window);
+    }
     return savePicture(window->grab(), line.screenshot);
 }

@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QFileDialog>
@@ -31,6 +32,15 @@ public:
     ~WaitCursor() { QApplication::restoreOverrideCursor(); }
     Q_DISABLE_COPY(WaitCursor)
 };
+
+/// Makes the wheel over a box of `panel` scroll the column; turning it would else change settings
+/// that happen to come by under the pointer.
+void scrollInsteadOfChoosing(QWidget* panel)
+{
+    for (QComboBox* box : panel->findChildren<QComboBox*>()) {
+        box->installEventFilter(panel);
+    }
+}
 
 } // namespace
 
@@ -94,9 +104,12 @@ void ViewerWindow::createIntensityWidget()
     }
     m_intensityWidget = new CVKIntensityWidget(this); // its panel looks for the slot in its parent
     m_pages->addWidget(m_intensityWidget);
-    // The canvas would accept a dragged file and then do nothing with it.
     for (QWidget* child : m_intensityWidget->findChildren<QWidget*>()) {
+        // The canvas would accept a dragged file and then do nothing with it.
         child->setAcceptDrops(false);
+        if (child->inherits("CVKDisplayPreferences")) {
+            scrollInsteadOfChoosing(child);
+        }
     }
 }
 

@@ -14,6 +14,11 @@ private Q_SLOTS:
     void dashesEndTheOptions();
     void size_data();
     void size();
+    void controls_areReadIntoTheirFields();
+    void controls_names_inAnyCase();
+    void controls_atTheLimits();
+    void numbers_data();
+    void numbers();
     void mistakes_data();
     void mistakes();
     void help_namesEveryOption();
@@ -90,6 +95,81 @@ void TestCommandLine::size()
     QCOMPARE(parsedSize(text), size);
 }
 
+void TestCommandLine::controls_areReadIntoTheirFields()
+{
+    QVERIFY(parsedCommandLine({ "--screenshot", "o.png", "a.raw" }).controls.isEmpty());
+    const CommandLine line
+        = parsedCommandLine({ "--screenshot", "o.png", "--view", "y", "--peaks", "12", "--palette",
+            "red", "--roi", "1,2,30,40", "--roi", "0,0,1,1", "--wavelength", "100,2", "a.raw" });
+    QCOMPARE(line.error, QString());
+    QCOMPARE(line.controls.view, QString("y"));
+    QCOMPARE(line.controls.peakCount, 12);
+    QCOMPARE(line.controls.palette, QString("red"));
+    QCOMPARE(line.controls.regions, (QVector<QRect> { QRect(1, 2, 30, 40), QRect(0, 0, 1, 1) }));
+    QVERIFY(line.controls.hasWavelength);
+    QCOMPARE(line.controls.wavelengthStart, 100);
+    QCOMPARE(line.controls.pixelWidth, 2);
+    QVERIFY(line.controls.wavelengthUnit.isEmpty());
+    QVERIFY(!line.controls.isEmpty());
+}
+
+void TestCommandLine::controls_names_inAnyCase()
+{
+    const CommandLine line = parsedCommandLine(
+        { "--screenshot", "o.png", "--view", "Image", "--palette", "COLOR", "a.raw" });
+    QCOMPARE(line.error, QString());
+    QCOMPARE(line.controls.view, QString("image"));
+    QCOMPARE(line.controls.palette, QString("color"));
+}
+
+void TestCommandLine::controls_atTheLimits()
+{
+    const auto parsed = [](const QString& option, const QString& value) {
+        return parsedCommandLine(
+            { "--screenshot", "o.png", "--view", "x", option, value, "a.raw" });
+    };
+    QCOMPARE(parsed("--peaks", "1").controls.peakCount, 1);
+    QCOMPARE(parsed("--peaks", "200").error, QString());
+    QVERIFY(!parsed("--peaks", "0").error.isEmpty());
+    QVERIFY(!parsed("--peaks", "201").error.isEmpty());
+    QCOMPARE(parsed("--wavelength", "0,1").error, QString());
+    QCOMPARE(parsed("--wavelength", "2000,100").error, QString());
+    QCOMPARE(parsed("--wavelength", "5,1,nm").controls.wavelengthUnit, QString("nm"));
+    QCOMPARE(parsed("--wavelength", "5,1,um").controls.wavelengthUnit, QString("um"));
+    for (const char* value :
+        { "2001,1", "5,0", "5,101", "5", "5,1,2", "5,1,mm", "5,nm", "-1,1", "5,1.5", ",nm", "" }) {
+        QVERIFY2(parsed("--wavelength", value).error.startsWith("--wavelength needs"), value);
+    }
+    for (const char* value : { "1,2,3", "1,2,3,4,5", "1,2,0,4", "1,2,3,0", "-1,2,3,4", "a,2,3,4",
+             "1,2,3,99999999999", "" }) {
+        QVERIFY2(parsed("--roi", value).error.startsWith("--roi needs"), value);
+    }
+}
+
+void TestCommandLine::numbers_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QVector<int>>("numbers");
+    const QVector<int> none;
+    QTest::newRow("usual") << "7,08" << QVector<int> { 7, 8 };
+    QTest::newRow("largest") << "99999,0" << QVector<int> { 99999, 0 };
+    QTest::newRow("too long") << "100000,0" << none;
+    QTest::newRow("too few") << "7" << none;
+    QTest::newRow("too many") << "7,8,9" << none;
+    QTest::newRow("nothing between") << "7," << none;
+    QTest::newRow("negative") << "7,-8" << none;
+    QTest::newRow("sign") << "+7,8" << none;
+    QTest::newRow("blank") << "7, 8" << none;
+    QTest::newRow("line feed") << "7,8\n" << none;
+    QTest::newRow("other digits") << QString::fromUtf8("7,\u0668") << none;
+}
+
+void TestCommandLine::numbers()
+{
+    QFETCH(QString, text);
+    QTEST(parsedNumbers(text, 2), "numbers");
+}
+
 void TestCommandLine::mistakes_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -109,6 +189,28 @@ void TestCommandLine::mistakes_data()
                                 << "--size goes with --screenshot";
     QTest::newRow("size without value") << QStringList { "--screenshot", "o.png", "a", "--size" }
                                         << "--size needs WIDTHxHEIGHT, each from 1 to 8192";
+    const QString together
+        = "--view, --peaks, --palette, --roi and --wavelength go with --screenshot";
+    QTest::newRow("view alone") << QStringList { "--view", "x", "a.raw" } << together;
+    QTest::newRow("region alone") << QStringList { "--roi", "1,1,1,1", "a.raw" } << together;
+    QTest::newRow("unknown view") << QStringList { "--screenshot", "o.png", "--view", "z", "a" }
+                                  << "--view needs image, x or y";
+    QTest::newRow("view without a value")
+        << QStringList { "--screenshot", "o.png", "a", "--view" } << "--view needs image, x or y";
+    QTest::newRow("unknown palette") << QStringList { "--screenshot", "o.png", "--palette", "pink",
+        "a" } << "--palette needs gray, red, green, blue or color";
+    QTest::newRow("too many peaks") << QStringList { "--screenshot", "o.png", "--view", "x",
+        "--peaks", "201", "a" } << "--peaks needs a number from 1 to 200";
+    const QString chart = "--peaks goes with --view x or --view y";
+    QTest::newRow("peaks of the image")
+        << QStringList { "--screenshot", "o.png", "--view", "image", "--peaks", "5", "a" } << chart;
+    QTest::newRow("peaks without a view")
+        << QStringList { "--screenshot", "o.png", "--peaks", "5", "a" } << chart;
+    QTest::newRow("wavelength beyond the field")
+        << QStringList { "--screenshot", "o.png", "--wavelength", "2001,1", "a" }
+        << "--wavelength needs START,WIDTH[,um|nm], START from 0 to 2000, WIDTH from 1 to 100";
+    QTest::newRow("region without a size") << QStringList { "--screenshot", "o.png", "--roi",
+        "1,1,0,5", "a" } << "--roi needs X,Y,WIDTH,HEIGHT in pixels from the top left";
     QTest::newRow("absurd size") << QStringList { "--screenshot", "o.png", "--size",
         "100000x100000", "a" } << "--size needs WIDTHxHEIGHT, each from 1 to 8192";
 }
@@ -122,7 +224,8 @@ void TestCommandLine::mistakes()
 
 void TestCommandLine::help_namesEveryOption()
 {
-    for (const char* option : { "--screenshot", "--size", "--help", "--version" }) {
+    for (const char* option : { "--screenshot", "--size", "--view", "--peaks", "--palette", "--roi",
+             "--wavelength", "--help", "--version" }) {
         QVERIFY(commandLineHelp().contains(option));
     }
 }

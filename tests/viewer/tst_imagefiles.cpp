@@ -1,6 +1,7 @@
 #include "imagefiles.h"
 
 #include "rawframe.h"
+#include "tifffile.h"
 
 #include <QFile>
 #include <QImage>
@@ -30,6 +31,7 @@ private Q_SLOTS:
     void rawWithoutPixels();
     void hugeRawCutShort_data();
     void hugeRawCutShort();
+    void size_isThatOfTheHeader();
     void summary_data();
     void summary();
 
@@ -74,6 +76,8 @@ void TestImageFiles::initTestCase()
     write("sparse.raw", encodedRawHeader(header));
     QVERIFY(QFile::resize(path("sparse.raw"), Q_INT64_C(4294837249))); // 1024 + 65535 x 65535
     QVERIFY(QImage(12, 9, QImage::Format_RGB32).save(path("real.png")));
+    QVERIFY(QFile::copy(path("real.png"), path("png.jpg")));
+    write("real.tif", tiffFile({ { 256, tiffShort, 1, 300 }, { 257, tiffShort, 1, 200 } }));
 }
 
 void TestImageFiles::suffixes()
@@ -255,8 +259,22 @@ void TestImageFiles::summary_data()
     QTest::addColumn<QString>("text");
     QTest::newRow("raw") << "good.raw" << QString::fromUtf8("7 × 5 pixels   16 bit");
     QTest::newRow("picture") << "real.png" << QString::fromUtf8("12 × 9 pixels");
+    QTest::newRow("TIFF") << "real.tif" << QString::fromUtf8("300 × 200 pixels");
+    QTest::newRow("PNG under another suffix") << "png.jpg" << QString::fromUtf8("12 × 9 pixels");
+    QTest::newRow("raw without pixels") << "empty.raw" << QString();
+    QTest::newRow("missing") << "gone.png" << QString();
     QTest::newRow("unreadable") << "text.png" << QString();
     QTest::newRow("no signature") << "fake.raw" << QString();
+}
+
+void TestImageFiles::size_isThatOfTheHeader()
+{
+    QCOMPARE(imageSize(path("good.raw")), QSize(7, 5));
+    QCOMPARE(imageSize(path("real.png")), QSize(12, 9));
+    QCOMPARE(imageSize(path("real.tif")), QSize(300, 200));
+    QVERIFY(imageSize(path("empty.raw")).isEmpty());
+    QVERIFY(imageSize(path("folder.png")).isEmpty());
+    QVERIFY(imageSize(QString()).isEmpty());
 }
 
 void TestImageFiles::summary()

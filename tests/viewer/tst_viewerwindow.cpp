@@ -8,6 +8,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QLabel>
@@ -16,10 +17,12 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QWheelEvent>
 #include <QtTest>
 
 namespace {
@@ -79,6 +82,7 @@ private Q_SLOTS:
     void gallery_ofAnUnreadableImageNamesTheProblem();
     void gallery_stopsWithTheWindow();
     void escape_staysInTheImage();
+    void wheel_overABoxScrollsThePanel();
     void path_ofAFolderShowsTheGallery();
     void menu();
     void menuGallery_asksForAFolderFirst();
@@ -376,6 +380,21 @@ void TestViewerWindow::escape_staysInTheImage()
     QTest::keyClick(m_window.get(), Qt::Key_Escape);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     QCOMPARE(page(), intensity());
+}
+
+void TestViewerWindow::wheel_overABoxScrollsThePanel()
+{
+    QVERIFY(m_window->openFile(path("lamp.raw")));
+    auto* box = intensity()->findChild<QComboBox*>("comboBoxType");
+    const auto* bar = intensity()->findChild<QScrollBar*>("bar_ModuleWidget");
+    QVERIFY(bar->maximum() > 0);
+    const QPoint position = box->rect().center();
+    QWheelEvent down(position, box->mapToGlobal(position), QPoint(), QPoint(0, -120), Qt::NoButton,
+        Qt::NoModifier, Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&down); // Qt hands no other wheel event on to parents
+    qApp->notify(box, &down);
+    QCOMPARE(box->currentIndex(), 0);
+    QVERIFY(bar->value() > 0);
 }
 
 void TestViewerWindow::path_ofAFolderShowsTheGallery()

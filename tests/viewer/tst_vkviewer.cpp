@@ -24,6 +24,10 @@ private Q_SLOTS:
     void screenshot_ofAGallery_data();
     void screenshot_ofAGallery();
     void screenshot_ofAGalleryOfHostileFiles();
+    void screenshot_withRegions();
+    void screenshot_ofTheCharts();
+    void screenshot_inAPalette();
+    void screenshot_ofControlsInASmallWindow();
     void screenshot_withoutADisplay();
     void failures_data();
     void failures();
@@ -65,6 +69,29 @@ int canvasColours(const QImage& window, int columnWidth)
         }
     }
     return colours.size();
+}
+
+/// How many pixels right of the panel column have a colour that `wanted` accepts.
+template <class Wanted>
+int canvasCount(const QImage& window, const Wanted& wanted)
+{
+    int count = 0;
+    for (int y = 0; y < window.height(); ++y) {
+        for (int x = 290; x < window.width(); ++x) {
+            count += wanted(window.pixelColor(x, y));
+        }
+    }
+    return count;
+}
+
+bool isRegionRed(const QColor& color)
+{
+    return color == QColor(Qt::red);
+}
+
+bool isCurveColour(const QColor& color)
+{
+    return color == QColor(40, 128, 140);
 }
 
 } // namespace
@@ -196,6 +223,80 @@ void TestVkviewer::screenshot_ofAGalleryOfHostileFiles()
     QVERIFY(!QImage(picture).isNull());
 }
 
+void TestVkviewer::screenshot_withRegions()
+{
+    const QString picture = path("regions.png");
+    const QString target = sample("dim-cells-12bit.raw"); // 1280 x 960, shown about half as large
+    QCOMPARE(run({ "--screenshot", picture, "--size", "1280x900", target }), 0);
+    QCOMPARE(canvasCount(QImage(picture), isRegionRed), 0);
+    QCOMPARE(run({ "--screenshot", picture, "--size", "1280x900", "--roi", "200,100,300,200",
+                 "--roi", "800,500,400,300", target }),
+        0);
+    QVERIFY2(m_errors.isEmpty(), m_errors.constData());
+    // Two outlines of about 2 x (300 + 200) x 0.65 and 2 x (400 + 300) x 0.65 pixels.
+    QVERIFY(canvasCount(QImage(picture), isRegionRed) > 1200);
+    const QStringList lines = QString::fromUtf8(m_output).split('\n');
+    QCOMPARE(lines.size(), 3); // the last one is empty
+    const QRegularExpression pattern("^ROI ([0-9]+): x ([0-9]+) to ([0-9]+), y ([0-9]+) to "
+                                     "([0-9]+) \\(from the top ([0-9]+) to ([0-9]+)\\)$");
+    const int wanted[2][7]
+        = { { 1, 200, 499, 660, 859, 100, 299 }, { 2, 800, 1199, 160, 459, 500, 799 } };
+    for (int i = 0; i < 2; ++i) {
+        const QRegularExpressionMatch match = pattern.match(lines.at(i));
+        QVERIFY2(match.hasMatch(), qPrintable(lines.at(i)));
+        for (int k = 0; k < 7; ++k) { // to the pixels that one unit of the canvas shows
+            QVERIFY(qAbs(match.captured(k + 1).toInt() - wanted[i][k]) <= (k == 0 ? 0 : 1));
+        }
+    }
+}
+
+void TestVkviewer::screenshot_ofTheCharts()
+{
+    const QString lamp = sample("lamp-spectrum.raw");
+    const auto chart = [&](const QString& view, const QStringList& more) {
+        const QString picture = path("chart.png");
+        const QStringList start { "--screenshot", picture, "--size", "1280x900", "--view", view };
+        return run(start + more + QStringList { lamp }) == 0 ? QImage(picture) : QImage();
+    };
+    const QImage row = chart("x", {});
+    const QImage column = chart("y", {});
+    QVERIFY(!row.isNull() && !column.isNull() && row != column);
+    QVERIFY(canvasCount(row, isCurveColour) > 1000);
+    const QImage labelled = chart("x", { "--peaks", "12" });
+    const QImage calibrated = chart("x", { "--peaks", "12", "--wavelength", "100,1,nm" });
+    QVERIFY(!labelled.isNull() && !calibrated.isNull() && labelled != calibrated);
+    QVERIFY(labelled != row);
+    QVERIFY(m_output.isEmpty());
+    QVERIFY2(m_errors.isEmpty(), m_errors.constData());
+    QCOMPARE(chart("x", { "--peaks", "12", "--wavelength", "100,1,nm" }), calibrated); // no cursor
+}
+
+void TestVkviewer::screenshot_inAPalette()
+{
+    const QString picture = path("palette.png");
+    const auto isDarkRed = [](const QColor& color) {
+        return color.red() > 80 && color.green() < 30 && color.blue() < 30;
+    };
+    const QStringList start { "--screenshot", picture, "--size", "1280x900",
+        sample("interference-rings-32bit.raw"), "--palette" };
+    QCOMPARE(run(start + QStringList { "Gray" }), 0);
+    QCOMPARE(canvasCount(QImage(picture), isDarkRed), 0);
+    QCOMPARE(run(start + QStringList { "RED" }), 0);
+    QVERIFY(canvasCount(QImage(picture), isDarkRed) > 50000);
+}
+
+void TestVkviewer::screenshot_ofControlsInASmallWindow()
+{
+    const QString picture = path("small.png");
+    QCOMPARE(
+        run({ "--screenshot", picture, "--size", "640x480", "--roi", "10,10,90,90", "--view", "y",
+            "--peaks", "3", "--palette", "blue", "--wavelength", "0,5", sample("star-field.raw") }),
+        0);
+    QVERIFY(m_output.startsWith("ROI 1: x "));
+    QCOMPARE(m_output.count('\n'), 1);
+    QCOMPARE(QImage(picture).size(), QSize(640, 480));
+}
+
 void TestVkviewer::screenshot_withoutADisplay()
 {
     const QString picture = path("headless.png");
@@ -226,6 +327,13 @@ void TestVkviewer::failures_data()
                               << "--screenshot needs an image to show";
     QTest::newRow("unknown option") << QStringList { "--screenshot", out, "--frobnicate" }
                                     << "unknown option --frobnicate (see --help)";
+    QTest::newRow("region outside")
+        << QStringList { "--screenshot", out, "--roi", "1000,0,25,10", lamp }
+        << lamp + ": the region 1000,0,25,10 does not lie inside the image of 1024x256 pixels";
+    QTest::newRow("controls of a folder") << QStringList { "--screenshot", out, "--view", "x",
+        m_folder.path() } << m_folder.path() + ": only an image has controls to set";
+    QTest::newRow("unknown palette") << QStringList { "--screenshot", out, "--palette", "pink",
+        lamp } << "--palette needs gray, red, green, blue or color";
     QTest::newRow("absurd size") << QStringList { "--screenshot", out, "--size", "999999x999999",
         lamp } << "--size needs WIDTHxHEIGHT, each from 1 to 8192";
     QTest::newRow("tiny size") << QStringList { "--screenshot", out, "--size", "20x20", lamp }
