@@ -3,6 +3,8 @@
 #include "ratioreporter.h"
 
 #include "canvas/displaypixmap.h"
+#include "canvas/imagelayoutitem.h"
+#include "panel/cvkdatahistogram.h"
 #include "widget/cvkintensitymdiwidget.h"
 #include "widget/cvkintensitywidget.h"
 
@@ -10,6 +12,7 @@
 #include <QPainter>
 #include <QPixmap>
 
+#include <cmath>
 #include <vector>
 
 namespace {
@@ -76,6 +79,19 @@ public:
             QImage(m_rgb.get(), m_frame.width, m_frame.height, QImage::Format_RGB888));
     }
 
+    /// Statistics and histogram of the whole image as a region, in a pass each.
+    void analyse()
+    {
+        const plain::Range range = plain::range(samples(), m_count);
+        const quint64 distances = plain::distanceSum(samples(), m_count, range.min);
+        const double mean = double(qint64(distances)) / double(m_count) + range.min;
+        const double squares = plain::addSquares(samples(), m_count, mean, 0.0);
+        benchmark::DoNotOptimize(std::sqrt(squares / double(m_count)));
+        plain::histogram(
+            samples(), m_count, range.min, m_histogram.get(), range.max - range.min + 1);
+        benchmark::DoNotOptimize(m_histogram.get());
+    }
+
     void paint(QImage& window) const
     {
         QPainter painter(&window);
@@ -128,6 +144,10 @@ public:
     }
 
     void paint(QImage& window) { m_widget.render(&window); }
+
+    ImageLayoutItem& image() { return *m_widget.findChild<CVKIntensityMdiWidget*>()->imageItem(); }
+
+    void paintPanel(QImage& window) { m_widget.findChild<CVKDataHistogram*>()->render(&window); }
 
 private:
     benchmark::State& m_state;
@@ -199,6 +219,37 @@ void measurePalette(benchmark::State& state)
     }
 }
 
+/// The plain side paints the same panel, so that only the analysis differs.
+void measurePlainRelease(benchmark::State& state)
+{
+    PlainView view(cameraFrame);
+    view.load(rawFilePath(cameraFrame));
+    QImage image = emptyWindow();
+    Window window(state);
+    for (auto _ : state) {
+        view.analyse();
+        window.paintPanel(image);
+    }
+}
+
+/// A region over the whole image is let go of.
+void measureRelease(benchmark::State& state)
+{
+    QImage image = emptyWindow();
+    Window window(state);
+    window.load(rawFilePath(cameraFrame));
+    RectangleItems& regions = window.image().rectangles;
+    regions.addItem();
+    RectangleItem* const region = regions.items.first();
+    for (auto _ : state) {
+        Q_EMIT region->changeRect(region, window.image().imageExtent());
+        window.paintPanel(image);
+    }
+    if (regions.rects.first().size() != QSizeF(cameraFrame.width, cameraFrame.height)) {
+        state.SkipWithError("the region is not the whole image");
+    }
+}
+
 /// A display image of the size of the frame; its pixels cost the same whatever they are.
 QImage displayImage()
 {
@@ -248,6 +299,8 @@ const bool pairsAdded = [] {
     addPair("load to window 8192x8192, 16 bit, first", 0.30, measurePlainChain, measureFirstChain);
     addPair("load to window 8192x8192, 16 bit, next", 0.30, measurePlainChain, measureNextChain);
     addPair("palette to window 8192x8192, 16 bit", 0.25, measurePlainPalette, measurePalette);
+    addPair(
+        "region release to panel, 8192x8192, 16 bit", 0.30, measurePlainRelease, measureRelease);
     return true;
 }();
 

@@ -152,6 +152,7 @@ void RectangleItem::resizeTo(const QPointF& position)
     const QPointF inside(std::min(std::max(position.x(), area.x()), area.x() + area.width()),
         std::min(std::max(position.y(), area.y()), area.y() + area.height()));
     setRect(roiResized(handles, RoiZone(hoverZone), inside));
+    // Deliberate: seen from the bottom right handle as it is now, whichever corner was dragged.
     hoverZone = cornerUnderPointer(handles.last(), inside);
 }
 

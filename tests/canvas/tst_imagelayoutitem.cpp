@@ -145,6 +145,9 @@ private Q_SLOTS:
     void paint_withoutImageDrawsTheFrameOnly();
     void layout_hints();
     void inAView_realPressAndWheel();
+    void regions_areMappedThroughTheView();
+    void regions_areMappedWithALineEach();
+    void regions_withoutImageAreNull();
 };
 
 void TestImageLayoutItem::init()
@@ -719,6 +722,59 @@ void TestImageLayoutItem::inAView_realPressAndWheel()
         Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(view.viewport(), &wheel);
     QVERIFY(stage.item->scale == 3.0);
+}
+
+void TestImageLayoutItem::regions_areMappedThroughTheView()
+{
+    QImage picture(800, 400, QImage::Format_RGB888);
+    ImageLayoutItem item(&picture); // 400 x 200, half a unit a pixel
+    item.setSize(400.0, 400.0);
+    QCOMPARE(item.size, QSizeF(400.0, 200.0));
+    QCOMPARE(item.imageExtent(), QRectF(0.0, 0.0, 400.0, 200.0));
+    QCOMPARE(item.mapRectFromImage(QRectF(101.0, 40.0, 51.0, 20.0)),
+        QRectF(51.0, 20.0, 26.0, 11.0)); // corners ceil(50.5), ceil(75.5), 20, ceil(29.5)
+    QRectF unsnapped(10.25, 10.25, 5.0, 5.0);
+    item.snapRect(unsnapped);
+    QCOMPARE(unsnapped, QRectF(10.25, 10.25, 5.0, 5.0));
+    QCOMPARE(item.mapRectToImage(QRectF(51.0, 20.0, 26.0, 11.0)),
+        QRectF(102.0, 40.0, 53.0, 23.0)); // pixels 102 to 154, 40 to 62
+
+    item.scale = 12.0; // 33 columns and 16 rows
+    QRectF snapped(10.25, 10.25, 5.0, 5.0);
+    item.snapRect(snapped);
+    const double column = 400.0 / 33.0;
+    QCOMPARE(snapped, QRectF(column / 2.0, 6.25, column, 12.5));
+    item.setImage(nullptr);
+}
+
+void TestImageLayoutItem::regions_areMappedWithALineEach()
+{
+    QImage picture(800, 400, QImage::Format_RGB888);
+    ImageLayoutItem item(&picture);
+    item.setSize(400.0, 400.0);
+    QLoggingCategory::setFilterRules("*.debug=true");
+    QTest::ignoreMessage(
+        QtDebugMsg, "[mapToPixel]sacle: 0.50000, anchor[51.0, 20.0], pos[102, 40]\n");
+    QTest::ignoreMessage(
+        QtDebugMsg, "[mapToPixel]sacle: 0.50000, anchor[77.0, 31.0], pos[154, 62]\n");
+    item.mapRectToImage(QRectF(51.0, 20.0, 26.0, 11.0));
+    QLoggingCategory::setFilterRules("*.debug=false");
+    item.setImage(nullptr);
+}
+
+void TestImageLayoutItem::regions_withoutImageAreNull()
+{
+    ImageLayoutItem item(nullptr);
+    QVERIFY(item.imageExtent().isNull());
+    QVERIFY(item.mapRectFromImage(QRectF(1.0, 2.0, 3.0, 4.0)).isNull());
+    QVERIFY(item.mapRectToImage(QRectF(1.0, 2.0, 3.0, 4.0)).isNull());
+    QImage picture(800, 400, QImage::Format_RGB888);
+    item.setImage(&picture);
+    item.setSize(0.0, 0.0);
+    QVERIFY(item.mapRectToImage(QRectF(1.0, 2.0, 3.0, 4.0)).isNull());
+    QRectF rect(1.0, 2.0, 3.0, 4.0);
+    item.snapRect(rect);
+    item.setImage(nullptr);
 }
 
 QTEST_MAIN(TestImageLayoutItem)
