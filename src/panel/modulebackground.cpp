@@ -14,12 +14,10 @@ void drawTiles(QPainter* painter, const QVector<QRect>& tiles, const QPixmap& pi
     }
 }
 
-void drawCorner(QPainter* painter, int x, int height, const QPixmap& corner)
+void drawCorner(QPainter* painter, int x, int panelHeight, const QPixmap& corner)
 {
-    if (!corner.isNull()) {
-        painter->drawPixmap(
-            QRect(x, height - corner.height(), corner.width(), corner.height()), corner);
-    }
+    const int y = panelHeight - corner.height();
+    painter->drawPixmap(QRect(QPoint(x, y), corner.size()), corner); // nothing when it is null
 }
 
 } // namespace

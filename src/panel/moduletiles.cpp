@@ -43,7 +43,7 @@ QVector<QRect> centreTiles(const QSize& tile, const QSize& panel)
             }
         }
         tiles.append(QRect(x, y, tile.width(), std::min(tile.height(), bottomLimit - y)));
-        x = std::min(x + tile.width(), rightLimit);
+        x += tile.width();
     }
     return tiles;
 }

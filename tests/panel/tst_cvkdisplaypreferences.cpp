@@ -644,8 +644,8 @@ void TestCVKDisplayPreferences::paint_groupIsRepaintedAtOnce()
     QVERIFY(QTest::qWaitForWindowExposed(m_panel.get()));
     QCoreApplication::processEvents();
     EventCounter paints(child<QGroupBox>("groupBoxPalette"), QEvent::Paint);
-    clickLeft(child<QPushButton>("pushButtonRed"));
-    QVERIFY(paints.count >= 1);
+    m_panel->resetDefaults(); // a click would paint the button, and the group with it
+    QCOMPARE(paints.count, 1);
 }
 
 void TestCVKDisplayPreferences::paint_frameFollowsThePalette()

@@ -194,7 +194,9 @@ void TestCVKIntensityCtrlWidget::buttonRow_leavesRoom()
     QCOMPARE(row->spacing(), expectedSizes().spacing);
     QCOMPARE(itemNames(row), QStringList({ "Return", "0 x 0 h" }));
     QCOMPARE(nameOf(main->itemAt(1)), QString("0 x 0 v"));
-    QCOMPARE(m_panel->size(), m_panel->sizeHint());
+    QWidget parent;
+    const CVKIntensityCtrlWidget hidden(&parent);
+    QCOMPARE(hidden.size(), hidden.sizeHint());
 }
 
 void TestCVKIntensityCtrlWidget::modules_standInTheColumn()
@@ -246,7 +248,9 @@ void TestCVKIntensityCtrlWidget::scrollArea_isASibling()
     QCOMPARE(area->frameShape(), QFrame::NoFrame);
     QCOMPARE(area->verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
     QCOMPARE(area->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
-    QVERIFY(!area->isHidden());
+    const CVKIntensityCtrlWidget second(m_parent); // on a parent that is shown already
+    QCOMPARE(m_parent->findChildren<QScrollArea*>().size(), 2);
+    QVERIFY(m_parent->findChildren<QScrollArea*>().last()->isVisible());
 }
 
 void TestCVKIntensityCtrlWidget::scrollArea_withoutParentBelongsToThePanel()

@@ -53,6 +53,7 @@ private Q_SLOTS:
     void minimumText();
     void maximumText_data();
     void maximumText();
+    void textsThatReachTheGroupsEdge_stayCentred();
 };
 
 void TestHistogramPolyline::range_data()
@@ -264,6 +265,13 @@ void TestHistogramPolyline::maximumText()
     QFETCH(int, x);
     const QRect place(30, 11, 200, 90); // right 229, bottom 100
     QCOMPARE(maximumTextPlace(place, groupRight, 20.5, 13.75), QPoint(x, 113));
+}
+
+void TestHistogramPolyline::textsThatReachTheGroupsEdge_stayCentred()
+{
+    const QRect place(30, 11, 200, 90);
+    QCOMPARE(minimumTextPlace(place, 20, 20.0, 13.0), QPoint(20, 113));
+    QCOMPARE(maximumTextPlace(place, 239, 20.0, 13.0), QPoint(219, 113));
 }
 
 QTEST_GUILESS_MAIN(TestHistogramPolyline)

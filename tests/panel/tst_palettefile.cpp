@@ -100,6 +100,8 @@ void TestPaletteFile::line_data()
     QTest::newRow("fraction") << QByteArray("1.5 20 30\n") << QColor(0, 20, 30);
     QTest::newRow("too large for an int") << QByteArray("99999999999 20 30\n") << QColor(0, 20, 30);
     QTest::newRow("other separators") << QByteArray("10,20,30\n") << QColor(0, 0, 0);
+    QTest::newRow("text mode drops a carriage return")
+        << QByteArray("1\r0 20 30\n") << QColor(10, 20, 30);
     QTest::newRow("limits") << QByteArray("255 0 255\n") << QColor(255, 0, 255);
 }
 
