@@ -43,7 +43,7 @@ auto laneSums(Bytes, hn::Vec<Bytes> values, uchar)
 }
 
 template <class Shorts>
-auto laneSums(Shorts shorts, hn::Vec<Shorts> values, ushort)
+auto laneSums(Shorts, hn::Vec<Shorts> values, ushort)
 {
     const hn::RepartitionToWide<Shorts> words;
     const auto pairs = hn::BitCast(words, values);
@@ -51,7 +51,7 @@ auto laneSums(Shorts shorts, hn::Vec<Shorts> values, ushort)
 }
 
 template <class Words>
-auto laneSums(Words words, hn::Vec<Words> values, uint)
+auto laneSums(Words, hn::Vec<Words> values, uint)
 {
     const hn::RepartitionToWide<Words> longs;
     const auto pairs = hn::BitCast(longs, values);
