@@ -34,6 +34,7 @@ private Q_SLOTS:
     void modes_persistAcrossLoads();
     void chart_isComputedWhenItIsShown();
     void chart_pixelRulerTakesTheWholeImage();
+    void chart_pixelRulersMeasureTheirAxis();
     void readout_isRefreshedByEveryMode();
     void readout_ofAPickInTheRowChart();
     void readout_ofAPickInTheColumnChart();
@@ -187,6 +188,14 @@ void TestDisplayModes::chart_pixelRulerTakesTheWholeImage()
     host.widget.switchDisplayType(1);
     QCOMPARE(host.rowChart.pixelRuler->labels(), whole);
     QCOMPARE(host.columnChart.pixelRuler->labels(), whole); // hidden, and told all the same
+}
+
+void TestDisplayModes::chart_pixelRulersMeasureTheirAxis()
+{
+    Host host;
+    openFrame(host, path("small.raw")); // 4 x 2: a tick for each pixel
+    QCOMPARE(host.rowChart.pixelRuler->ticks().size(), 4);
+    QCOMPARE(host.columnChart.pixelRuler->ticks().size(), 2);
 }
 
 void TestDisplayModes::readout_isRefreshedByEveryMode()
