@@ -12,6 +12,11 @@ struct PaletteEntry
     uchar red = 0;
     uchar green = 0;
     uchar blue = 0;
+
+    bool operator==(const PaletteEntry& other) const
+    {
+        return red == other.red && green == other.green && blue == other.blue;
+    }
 };
 
 /// Colour of each display level.

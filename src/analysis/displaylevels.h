@@ -39,4 +39,11 @@ struct DisplayLevels
         }
         return map ? map[bin] : displayLevel(bin, scale);
     }
+
+    /// Same levels, out of the same table.
+    bool operator==(const DisplayLevels& other) const
+    {
+        return min == other.min && binCount == other.binCount && scale == other.scale
+            && map == other.map;
+    }
 };

@@ -40,6 +40,7 @@ void ImageIntensityAnalysis::setImageData(ImageData* newImage)
     if (!hasImage()) {
         return;
     }
+    m_rendered = Rendering();
     image->convertToGray();
     histogram.setImageData(image);
     Q_EMIT newHistogramSize(int(histogram.size));
@@ -93,7 +94,15 @@ void ImageIntensityAnalysis::convertToDisplay()
         convertToRgb(samples, count, histogram.levels(), levelColors(), displayBuffer);
         m_displayMemory.markWritten(size_t(3 * count));
     });
+    m_rendered = Rendering { image->data, displayBuffer, histogram.levels(), levelColors() };
     Q_EMIT updateImage();
+}
+
+/// Whether the display image shows the present pixels in the present colours already.
+bool ImageIntensityAnalysis::isRendered() const
+{
+    return canConvert() && m_rendered.pixels == image->data && m_rendered.buffer == displayBuffer
+        && m_rendered.levels == histogram.levels() && m_rendered.colors == levelColors();
 }
 
 LevelColors ImageIntensityAnalysis::levelColors() const
@@ -164,7 +173,12 @@ void ImageIntensityAnalysis::changedColors(QVector<QColor> color)
         const QColor& c = color.at(i);
         palette[size_t(i)] = { uchar(c.red()), uchar(c.green()), uchar(c.blue()) };
     }
-    if (image) {
+    if (!image) {
+        return;
+    }
+    if (isRendered()) {
+        Q_EMIT updateImage(); // the same colours again, as every load brings them
+    } else {
         convertToDisplay();
     }
 }

@@ -71,11 +71,21 @@ public Q_SLOTS:
     void sendUpdetaIntensityHistogramSignal();
 
 private:
+    /// What the last display conversion was made of.
+    struct Rendering
+    {
+        const void* pixels = nullptr;
+        const uchar* buffer = nullptr;
+        DisplayLevels levels;
+        LevelColors colors {};
+    };
+
     void resetTables();
     bool hasImage() const;
     void createDisplayImage();
     bool canConvert() const;
     void convertToDisplay();
+    bool isRendered() const;
     LevelColors levelColors() const;
     void updateLines();
     int verticalSize() const;
@@ -85,4 +95,5 @@ private:
 
     PixelMemory m_displayMemory;
     qint64 m_displayPixels = 0; ///< pixels that displayBuffer was made for
+    Rendering m_rendered;
 };

@@ -149,6 +149,7 @@ private Q_SLOTS:
     void roi_nestedRequest();
     void roi_closedByAReceiver();
     void roi_otherImageSetByAReceiver();
+    void colors_thatAreShownAlreadyAreOnlyAnnounced();
 };
 
 void TestImageIntensityAnalysis::startsWithoutAnImage()
@@ -1009,6 +1010,38 @@ void TestImageIntensityAnalysis::roi_otherImageSetByAReceiver()
     SignalLog log(engine);
     engine.changedIntensityRoi(0, cornerRect(0, 0, 3, 0)); // its range has 31 values
     QCOMPARE(log.lines.last(), QString("bins [] 1 10 40")); // not the two old bins
+}
+
+void TestImageIntensityAnalysis::colors_thatAreShownAlreadyAreOnlyAnnounced()
+{
+    ImageData image;
+    QVERIFY(image.allocate(4, 1, 8, 1));
+    const uchar samples[] = { 0, 85, 170, 255 };
+    std::memcpy(image.data, samples, sizeof(samples));
+    ImageIntensityAnalysis engine(&image);
+    QVector<QColor> gray;
+    for (int level = 0; level < 256; ++level) {
+        gray.append(QColor(level, level, level));
+    }
+    QSignalSpy updates(&engine, SIGNAL(updateImage()));
+    engine.changedColors(gray);
+    QCOMPARE(updates.size(), 1);
+    QCOMPARE(engine.displayImage->pixelColor(1, 0), QColor(85, 85, 85));
+    // Other colours, another order of them, and other levels are rendered.
+    engine.changedColors({ Qt::red });
+    QCOMPARE(engine.displayImage->pixelColor(0, 0), QColor(Qt::red));
+    engine.colorIndex[255] = 85;
+    engine.changedColors({});
+    QCOMPARE(engine.displayImage->pixelColor(3, 0), QColor(85, 85, 85));
+    engine.histogram.buildDisplayMap(0, 51); // a fifth of the levels
+    engine.changedColors({});
+    QCOMPARE(engine.displayImage->pixelColor(1, 0), QColor(17, 17, 17));
+    QCOMPARE(updates.size(), 4);
+    // So is another image.
+    ImageData next;
+    QVERIFY(next.allocate(4, 1, 8, 1));
+    engine.setImageData(&next);
+    QCOMPARE(updates.size(), 5);
 }
 
 QTEST_GUILESS_MAIN(TestImageIntensityAnalysis)
