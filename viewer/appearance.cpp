@@ -12,6 +12,7 @@ void initViewerResources()
 {
     Q_INIT_RESOURCE(viewer);
     Q_INIT_RESOURCE(skin);
+    Q_INIT_RESOURCE(translations);
 }
 
 namespace {

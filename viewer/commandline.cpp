@@ -10,21 +10,22 @@ QString readSize(const QString& value, CommandLine* line)
     line->size = parsedSize(value);
     return line->size.isValid()
         ? QString()
-        : QString("--size needs WIDTHxHEIGHT, each from 1 to %1").arg(maxScreenshotExtent);
+        : CommandLine::tr("--size needs WIDTHxHEIGHT, each from 1 to %1").arg(maxScreenshotExtent);
 }
 
 QString readView(const QString& value, CommandLine* line)
 {
     line->controls.view = value.toLower();
     const bool known = QStringList { "image", "x", "y" }.contains(line->controls.view);
-    return known ? QString() : QStringLiteral("--view needs image, x or y");
+    return known ? QString() : CommandLine::tr("--view needs image, x or y");
 }
 
 QString readPeaks(const QString& value, CommandLine* line)
 {
     line->controls.peakCount = parsedNumbers(value, 1).value(0);
     const bool inside = line->controls.peakCount >= 1 && line->controls.peakCount <= maxPeakCount;
-    return inside ? QString() : QString("--peaks needs a number from 1 to %1").arg(maxPeakCount);
+    return inside ? QString()
+                  : CommandLine::tr("--peaks needs a number from 1 to %1").arg(maxPeakCount);
 }
 
 QString readPalette(const QString& value, CommandLine* line)
@@ -33,7 +34,7 @@ QString readPalette(const QString& value, CommandLine* line)
     const QStringList palettes { "gray", "red", "green", "blue", "color" };
     return palettes.contains(line->controls.palette)
         ? QString()
-        : QStringLiteral("--palette needs gray, red, green, blue or color");
+        : CommandLine::tr("--palette needs gray, red, green, blue or color");
 }
 
 /// Takes the unit off the end of a wavelength, if there is one.
@@ -61,7 +62,8 @@ QString readWavelength(const QString& value, CommandLine* line)
         && controls.pixelWidth <= maxPixelWidth;
     return inside
         ? QString()
-        : QString("--wavelength needs START,WIDTH[,um|nm], START from 0 to %1, WIDTH from 1 to %2")
+        : CommandLine::tr(
+            "--wavelength needs START,WIDTH[,um|nm], START from 0 to %1, WIDTH from 1 to %2")
               .arg(maxWavelengthStart)
               .arg(maxPixelWidth);
 }
@@ -72,14 +74,14 @@ QString readRegion(const QString& value, CommandLine* line)
     const QRect region(numbers.value(0), numbers.value(1), numbers.value(2), numbers.value(3));
     line->controls.regions << region;
     return region.isEmpty()
-        ? QStringLiteral("--roi needs X,Y,WIDTH,HEIGHT in pixels from the top left")
+        ? CommandLine::tr("--roi needs X,Y,WIDTH,HEIGHT in pixels from the top left")
         : QString();
 }
 
 QString readScreenshot(const QString& value, CommandLine* line)
 {
     line->screenshot = value;
-    return value.isEmpty() ? QStringLiteral("--screenshot needs a file name") : QString();
+    return value.isEmpty() ? CommandLine::tr("--screenshot needs a file name") : QString();
 }
 
 /// Each reads the value behind its option, which is empty when there is none.
@@ -97,7 +99,7 @@ QString readOption(const QString& option, QStringList* rest, CommandLine* line)
     };
     const Reader reader = readers.value(option);
     if (!reader) {
-        return QString("unknown option %1 (see --help)").arg(option);
+        return CommandLine::tr("unknown option %1 (see --help)").arg(option);
     }
     return reader(rest->isEmpty() ? QString() : rest->takeFirst(), line);
 }
@@ -105,29 +107,29 @@ QString readOption(const QString& option, QStringList* rest, CommandLine* line)
 QString readImage(const QString& path, CommandLine* line)
 {
     if (!line->image.isEmpty()) {
-        return QStringLiteral("only one image can be opened");
+        return CommandLine::tr("only one image can be opened");
     }
     line->image = path;
-    return path.isEmpty() ? QStringLiteral("the name of the image is empty") : QString();
+    return path.isEmpty() ? CommandLine::tr("the name of the image is empty") : QString();
 }
 
 QString contradiction(const CommandLine& line)
 {
     if (line.screenshot.isEmpty()) {
         if (line.size.isValid()) {
-            return QStringLiteral("--size goes with --screenshot");
+            return CommandLine::tr("--size goes with --screenshot");
         }
         return line.controls.isEmpty()
             ? QString()
-            : QStringLiteral("--view, --peaks, --palette, --roi and --wavelength go with "
-                             "--screenshot");
+            : CommandLine::tr("--view, --peaks, --palette, --roi and --wavelength go with "
+                              "--screenshot");
     }
     if (line.image.isEmpty()) {
-        return QStringLiteral("--screenshot needs an image to show");
+        return CommandLine::tr("--screenshot needs an image to show");
     }
     const bool chart = line.controls.view == "x" || line.controls.view == "y";
     return line.controls.peakCount > 0 && !chart
-        ? QStringLiteral("--peaks goes with --view x or --view y")
+        ? CommandLine::tr("--peaks goes with --view x or --view y")
         : QString();
 }
 
@@ -180,7 +182,7 @@ QVector<int> parsedNumbers(const QString& text, int count)
 
 QString commandLineHelp()
 {
-    return QStringLiteral(
+    return CommandLine::tr(
         "Usage: vkviewer [IMAGE | FOLDER]\n"
         "       vkviewer --screenshot FILE.png [OPTIONS] IMAGE | FOLDER\n"
         "\n"

@@ -2,6 +2,7 @@
 
 #include "controlsettings.h"
 
+#include <QCoreApplication>
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -9,6 +10,9 @@
 /// What the program was asked to do.
 struct CommandLine
 {
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+
+public:
     QString image; ///< file to open, or folder to show; empty: none
     QString screenshot; ///< file to save the window to; empty: an ordinary session
     QSize size; ///< window size in pixels; not valid: the default

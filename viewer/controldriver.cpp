@@ -131,8 +131,9 @@ Control* ControlDriver::control(const char* name)
         return nullptr;
     }
     if (!found || !found->isEnabled()) {
-        const char* lack = found ? "the control %1 is disabled" : "there is no control %1";
-        m_problem = QString(lack).arg(name);
+        const QString lack = found ? ControlDriver::tr("the control %1 is disabled")
+                                   : ControlDriver::tr("there is no control %1");
+        m_problem = lack.arg(name);
         return nullptr;
     }
     bringIntoView(found);
@@ -160,7 +161,7 @@ void ControlDriver::chooseRow(const char* comboBoxName, int row)
         sendKey(box, Qt::Key_Down, Qt::NoModifier, QString());
     }
     if (box->currentIndex() != row) {
-        m_problem = QString("the control %1 has no entry %2").arg(comboBoxName).arg(row + 1);
+        m_problem = tr("the control %1 has no entry %2").arg(comboBoxName).arg(row + 1);
     }
 }
 
@@ -177,7 +178,7 @@ void ControlDriver::type(const char* lineEditName, int number)
         sendKey(edit, Qt::Key_0 + digit.digitValue(), Qt::NoModifier, digit);
     }
     if (edit->text() != text) {
-        m_problem = QString("the control %1 does not take %2").arg(lineEditName, text);
+        m_problem = tr("the control %1 does not take %2").arg(lineEditName, text);
     }
 }
 
@@ -225,7 +226,7 @@ void ControlDriver::drawRegion(const QRect& pixels)
     QGraphicsItem* region = view ? addRegion(*view) : nullptr;
     const QGraphicsItem* image = region ? region->parentItem() : nullptr;
     if (!image) {
-        m_problem = m_problem.isEmpty() ? "the canvas takes no region" : m_problem;
+        m_problem = m_problem.isEmpty() ? tr("the canvas takes no region") : m_problem;
         return;
     }
     const QSizeF border(2.0 * imageBorder, 2.0 * imageBorder);
@@ -264,11 +265,11 @@ void ControlDriver::reportRegion()
     int first = 0;
     int last = 0;
     if (!readSpan(rows->text(), &first, &last)) {
-        m_problem = "the panel does not tell where the region is";
+        m_problem = tr("the panel does not tell where the region is");
         return;
     }
     const int bottomRow = m_imageSize.height() - 1;
-    m_report << QString("%1: x %2, y %3 (from the top %4 to %5)")
+    m_report << tr("%1: x %2, y %3 (from the top %4 to %5)")
                     .arg(box->currentText(), columns->text(), rows->text())
                     .arg(bottomRow - last)
                     .arg(bottomRow - first);

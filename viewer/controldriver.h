@@ -2,6 +2,7 @@
 
 #include "controlsettings.h"
 
+#include <QCoreApplication>
 #include <QSize>
 #include <QStringList>
 
@@ -14,6 +15,8 @@ class QWidget;
 /// has just loaded, fitted into its canvas.
 class ControlDriver
 {
+    Q_DECLARE_TR_FUNCTIONS(ControlDriver)
+
 public:
     /// `imageSize` is the size of the image in pixels.
     ControlDriver(QWidget* intensityWidget, const QSize& imageSize);

@@ -14,10 +14,11 @@
 
 namespace {
 
-QString text(const char* source)
+/// Context of the texts for translation.
+struct ImageFiles
 {
-    return QCoreApplication::translate("ImageFiles", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(ImageFiles)
+};
 
 QString suffixOf(const QString& path)
 {
@@ -36,48 +37,50 @@ QString formatName(const QString& suffix)
 QString outerProblem(const QFileInfo& file)
 {
     if (!file.exists()) {
-        return text("There is no file of this name.");
+        return ImageFiles::tr("There is no file of this name.");
     }
     if (file.isDir()) {
-        return text("This is a folder, not an image file.");
+        return ImageFiles::tr("This is a folder, not an image file.");
     }
     if (!file.isFile()) {
-        return text("This is not a regular file.");
+        return ImageFiles::tr("This is not a regular file.");
     }
     const QString suffix = file.suffix().toLower();
     if (suffix.isEmpty()) {
-        return text("The file name has no suffix. Images end in %1.")
+        return ImageFiles::tr("The file name has no suffix. Images end in %1.")
             .arg(imageSuffixes().join(", "));
     }
     if (!imageSuffixes().contains(suffix)) {
-        return text("Files of the kind \"%1\" are not known. Images end in %2.")
+        return ImageFiles::tr("Files of the kind \"%1\" are not known. Images end in %2.")
             .arg(suffix.left(20), imageSuffixes().join(", "));
     }
     if (!file.isReadable()) {
-        return text("You have no permission to read this file.");
+        return ImageFiles::tr("You have no permission to read this file.");
     }
-    return file.size() == 0 ? text("The file is empty.") : QString();
+    return file.size() == 0 ? ImageFiles::tr("The file is empty.") : QString();
 }
 
 QString rawProblem(const QString& path)
 {
     RawHeader header;
     switch (readRawHeader(path, &header)) {
-    case RawFileError::Unreadable: return text("The file cannot be opened.");
+    case RawFileError::Unreadable: return ImageFiles::tr("The file cannot be opened.");
     case RawFileError::NoSignature:
-        return text("This is no raw camera file: it does not carry the camera's signature.");
+        return ImageFiles::tr(
+            "This is no raw camera file: it does not carry the camera's signature.");
     default: break;
     }
     if (pixelByteCount(header) == 0) {
-        return text("This raw camera file holds no pixels.");
+        return ImageFiles::tr("This raw camera file holds no pixels.");
     }
     if (isHugeRawFileCutShort(path)) {
-        return text("This raw camera file claims %1 x %2 pixels but does not hold them.")
+        return ImageFiles::tr("This raw camera file claims %1 x %2 pixels but does not hold them.")
             .arg(header.width)
             .arg(header.height);
     }
-    return text("This raw camera file claims %1 x %2 pixels with %3 channels of %4 bytes, which is "
-                "more than can be loaded.")
+    return ImageFiles::tr(
+        "This raw camera file claims %1 x %2 pixels with %3 channels of %4 bytes, which is "
+        "more than can be loaded.")
         .arg(header.width)
         .arg(header.height)
         .arg(header.channels)
@@ -91,12 +94,25 @@ QSize rawSize(const QString& path)
     return read ? QSize(header.width, header.height) : QSize();
 }
 
-/// Depth of a raw frame, behind its size.
-QString rawDepth(const QString& path)
+int rawDepth(const QString& path)
 {
     RawHeader header;
     const bool read = readRawHeader(path, &header) == RawFileError::None;
-    return read ? "   " + text("%1 bit").arg(header.bytesPerChannel * 8) : QString();
+    return read ? header.bytesPerChannel * 8 : 0;
+}
+
+/// Bits a sample that the header of a TIFF or PNG file gives; 8 for the other formats.
+int storedDepth(QIODevice* file)
+{
+    constexpr int pngDepthOffset = 24; // behind signature, chunk head, width and height
+    TiffHeader tiff;
+    if (readTiffHeader(file, &tiff)) {
+        return int(qMin(tiff.bitsPerSample, quint32(64)));
+    }
+    file->seek(0);
+    const QByteArray head = file->read(pngDepthOffset + 1);
+    const bool isPng = head.size() > pngDepthOffset && head.startsWith("\x89PNG");
+    return isPng ? uchar(head[pngDepthOffset]) : 8;
 }
 
 /// Qt knows TIFF only where a plugin is installed.
@@ -116,18 +132,25 @@ QSize commonSize(const QString& path)
     return reader.size();
 }
 
-/// Sorts by name as a person would, the same in every language.
-void sortByName(QFileInfoList* files)
+/// Orders names as a person would, the same in every language.
+class NameOrder
 {
-    QCollator collator { QLocale(QLocale::English) }; // the C locale compares bytes
-    collator.setNumericMode(true);
-    collator.setCaseSensitivity(Qt::CaseInsensitive);
-    const auto before = [&collator](const QFileInfo& a, const QFileInfo& b) {
-        const int order = collator.compare(a.fileName(), b.fileName());
+public:
+    NameOrder()
+    {
+        m_collator.setNumericMode(true);
+        m_collator.setCaseSensitivity(Qt::CaseInsensitive);
+    }
+
+    bool operator()(const QFileInfo& a, const QFileInfo& b) const
+    {
+        const int order = m_collator.compare(a.fileName(), b.fileName());
         return order != 0 ? order < 0 : a.fileName() < b.fileName();
-    };
-    std::sort(files->begin(), files->end(), before);
-}
+    }
+
+private:
+    QCollator m_collator { QLocale(QLocale::English) }; // the C locale compares bytes
+};
 
 } // namespace
 
@@ -142,7 +165,8 @@ QString openDialogFilter()
     for (const QString& suffix : imageSuffixes()) {
         patterns << "*." + suffix;
     }
-    return text("Images (%1)").arg(patterns.join(' ')) + ";;" + text("All files (*)");
+    return ImageFiles::tr("Images (%1)").arg(patterns.join(' ')) + ";;"
+        + ImageFiles::tr("All files (*)");
 }
 
 QFileInfoList imagesInFolder(const QString& folder)
@@ -153,8 +177,19 @@ QFileInfoList imagesInFolder(const QString& folder)
         return !file.isFile() || !suffixes.contains(file.suffix().toLower());
     };
     files.erase(std::remove_if(files.begin(), files.end(), unwanted), files.end());
-    sortByName(&files);
+    std::sort(files.begin(), files.end(), NameOrder());
     return files;
+}
+
+QString neighbourInFolder(const QString& path, int step)
+{
+    const QFileInfo file(path);
+    const QFileInfoList files = imagesInFolder(file.absolutePath());
+    const auto place = std::lower_bound(files.begin(), files.end(), file, NameOrder());
+    const bool isThere = place != files.end() && place->fileName() == file.fileName();
+    const int passed = step > 0 && !isThere ? 1 : 0; // one that is gone has its successor here
+    const int index = int(place - files.begin()) + step - passed;
+    return files.value(index).filePath();
 }
 
 QString loadProblem(const QString& path)
@@ -167,8 +202,9 @@ QString loadProblem(const QString& path)
     if (suffixOf(path) == "raw") {
         return rawProblem(path);
     }
-    return text("The file cannot be read as a %1 image: it is damaged, or of another kind than its "
-                "suffix says.")
+    return ImageFiles::tr(
+        "The file cannot be read as a %1 image: it is damaged, or of another kind than its "
+        "suffix says.")
         .arg(formatName(suffixOf(path)));
 }
 
@@ -196,12 +232,26 @@ QSize imageSize(const QString& path)
     return size.isEmpty() ? QSize() : size;
 }
 
+int imageDepth(const QString& path)
+{
+    if (suffixOf(path) == "raw") {
+        return rawDepth(path);
+    }
+    QFile file(path);
+    if (imageSize(path).isEmpty() || !file.open(QIODevice::ReadOnly)) {
+        return 0;
+    }
+    const int stored = storedDepth(&file);
+    return stored <= 8 ? 8 : stored;
+}
+
 QString imageSummary(const QString& path)
 {
     const QSize size = imageSize(path);
     if (size.isEmpty()) {
         return QString();
     }
-    const QString extent = text("%1 × %2 pixels").arg(size.width()).arg(size.height());
-    return suffixOf(path) == "raw" ? extent + rawDepth(path) : extent;
+    const QString extent = ImageFiles::tr("%1 × %2 pixels").arg(size.width()).arg(size.height());
+    const int depth = imageDepth(path);
+    return depth > 0 ? extent + "   " + ImageFiles::tr("%1 bit").arg(depth) : extent;
 }

@@ -17,6 +17,10 @@ QString openDialogFilter();
 /// before 10. Empty for a folder that is missing or cannot be read.
 QFileInfoList imagesInFolder(const QString& folder);
 
+/// The image `step` places after `path` (before it when negative) in its folder, in that order; of
+/// a file that is gone, its place counts. Empty beyond either end.
+QString neighbourInFolder(const QString& path, int step);
+
 /// The likely reason why the file cannot be shown, as one sentence for the user. To be asked after
 /// a load has failed: when nothing else is wrong, the content is.
 QString loadProblem(const QString& path);
@@ -32,5 +36,8 @@ bool isHugeRawFileCutShort(const QString& path);
 /// Size in pixels as the file's header says it; empty when it cannot be told.
 QSize imageSize(const QString& path);
 
-/// Size and, where it is known without reading the pixels, depth; empty when neither is.
+/// Bits a sample as the library loads them, at least 8; 0 when the header does not tell.
+int imageDepth(const QString& path);
+
+/// Size and depth as one text, as far as they are known; empty when neither is.
 QString imageSummary(const QString& path);

@@ -1,15 +1,18 @@
 #include "appearance.h"
 #include "commandline.h"
+#include "languages.h"
 #include "screenshot.h"
 #include "viewerwindow.h"
 
 #include <QApplication>
 #include <QLoggingCategory>
 #include <QScreen>
+#include <QSettings>
 #include <QTimer>
 
 #include <cstdio>
 #include <cstring>
+#include <memory>
 
 namespace {
 
@@ -55,9 +58,21 @@ QSize startSize()
     return screen ? wanted.boundedTo(screen->availableSize() * 0.95) : wanted;
 }
 
+/// On a screen of twice the dots everything is drawn twice as large. Only whole factors are taken,
+/// which keep image pixels sharp and equal; the widget itself follows what remains.
+void prepareForDenseScreens()
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
+    QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::Floor);
+}
+
 int runWindow(ViewerWindow* window, const QString& image)
 {
     window->resize(startSize());
+    window->restoreSession(std::make_unique<QSettings>());
     window->show();
     if (!image.isEmpty()) {
         QTimer::singleShot(0, window, [window, image] { window->openPath(image); });
@@ -85,12 +100,18 @@ int main(int argc, char* argv[])
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     quietLog(screenshot);
-    const QApplication application(argc, argv);
+    prepareForDenseScreens();
+    QApplication application(argc, argv);
+    QApplication::setOrganizationName("VKIntensity"); // with the next line, where settings are
+    QApplication::setApplicationName("vkviewer");
+    QApplication::setApplicationVersion(VKVIEWER_VERSION);
+    QApplication::setDesktopFileName("org.vkintensity.VKViewer");
     const CommandLine line = parsedCommandLine(QApplication::arguments().mid(1));
     if (!line.error.isEmpty()) {
         return fail(line.error);
     }
     initViewerResources();
+    installLanguage(&application, QLocale());
     applyAppearance();
     ViewerWindow window;
     if (line.screenshot.isEmpty()) {

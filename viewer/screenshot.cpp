@@ -4,17 +4,26 @@
 #include "controldriver.h"
 #include "cvkintensitywidget.h"
 #include "imagefiles.h"
+#include "picturefile.h"
 #include "quietstderr.h"
 #include "viewerwindow.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QGuiApplication>
-#include <QSaveFile>
+#include <QLabel>
 #include <QTimer>
 #include <QWindow>
+#include <QtMath>
 
 namespace {
+
+/// Context of the texts for translation.
+struct Screenshot
+{
+    Q_DECLARE_TR_FUNCTIONS(Screenshot)
+};
 
 constexpr int exposeMilliseconds = 5000; // a screen that shows no window must not hang the program
 constexpr int settleMilliseconds = 150;
@@ -57,23 +66,41 @@ bool openQuietly(ViewerWindow* window, const QString& path)
     return opened;
 }
 
+/// Size of a window, in units of `ratio` pixels, that covers `pixels`.
+QSize coveringSize(const QSize& pixels, qreal ratio)
+{
+    return QSize(qCeil(pixels.width() / ratio), qCeil(pixels.height() / ratio));
+}
+
+/// The window as exactly so many pixels, and without the time the image took to load: the same
+/// image gives the same picture.
+QPixmap pictureOf(ViewerWindow* window, const QSize& pixels)
+{
+    window->findChild<QLabel*>("statusLoadTime")->clear();
+    const QPixmap picture = window->grab();
+    return pixels.isValid() ? picture.copy(QRect(QPoint(), pixels)) : picture;
+}
+
 QString sizeProblem(const ViewerWindow& window, const QSize& size)
 {
-    const QSize least = window.minimumSize();
+    const QSize least = window.minimumSize() * window.devicePixelRatioF();
     if (!size.isValid() || size.expandedTo(least) == size) {
         return QString();
     }
-    return QString("the window is at least %1x%2 pixels").arg(least.width()).arg(least.height());
+    return Screenshot::tr("the window is at least %1x%2 pixels")
+        .arg(least.width())
+        .arg(least.height());
 }
 
 QString regionProblem(const QVector<QRect>& regions, const QSize& imageSize)
 {
     if (!regions.isEmpty() && imageSize.isEmpty()) {
-        return QStringLiteral("the size of the image cannot be told");
+        return Screenshot::tr("the size of the image cannot be told");
     }
     for (const QRect& region : regions) {
         if (!QRect(QPoint(), imageSize).contains(region)) {
-            return QString("the region %1,%2,%3,%4 does not lie inside the image of %5x%6 pixels")
+            return Screenshot::tr(
+                "the region %1,%2,%3,%4 does not lie inside the image of %5x%6 pixels")
                 .arg(region.x())
                 .arg(region.y())
                 .arg(region.width())
@@ -89,7 +116,7 @@ QString setControls(ViewerWindow* window, const CommandLine& line, QStringList* 
 {
     auto* intensityWidget = window->findChild<CVKIntensityWidget*>();
     if (!intensityWidget || !intensityWidget->isVisible()) {
-        return QString("%1: only an image has controls to set").arg(line.image);
+        return Screenshot::tr("%1: only an image has controls to set").arg(line.image);
     }
     const QSize size = imageSize(line.image);
     const QString outside = regionProblem(line.controls.regions, size);
@@ -105,15 +132,6 @@ QString setControls(ViewerWindow* window, const CommandLine& line, QStringList* 
     return problem;
 }
 
-QString savePicture(const QPixmap& picture, const QString& path)
-{
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && picture.save(&file, "PNG") && file.commit()) {
-        return QString();
-    }
-    return QString("%1: cannot be written: %2").arg(path, file.errorString());
-}
-
 } // namespace
 
 QString takeScreenshot(ViewerWindow* window, const CommandLine& line, QStringList* report)
@@ -123,7 +141,7 @@ QString takeScreenshot(ViewerWindow* window, const CommandLine& line, QStringLis
         return tooSmall;
     }
     if (line.size.isValid()) {
-        window->resize(line.size);
+        window->resize(coveringSize(line.size, window->devicePixelRatioF()));
     }
     window->show();
     settle(*window);
@@ -138,5 +156,5 @@ QString takeScreenshot(ViewerWindow* window, const CommandLine& line, QStringLis
         }
         settle(*window);
     }
-    return savePicture(window->grab(), line.screenshot);
+    return savePicture(pictureOf(window, line.size), line.screenshot);
 }

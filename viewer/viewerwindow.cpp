@@ -4,20 +4,30 @@
 #include "cvkintensitywidget.h"
 #include "elidedlabel.h"
 #include "gallerypage.h"
+#include "helpoverlay.h"
 #include "imagefiles.h"
 #include "pages.h"
+#include "picturefile.h"
+#include "readahead.h"
+#include "viewermenu.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDir>
 #include <QDragEnterEvent>
+#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QMenu>
+#include <QLocale>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QMimeData>
+#include <QProgressBar>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QSettings>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTimer>
@@ -33,13 +43,26 @@ public:
     Q_DISABLE_COPY(WaitCursor)
 };
 
-/// Makes the wheel over a box of `panel` scroll the column; turning it would else change settings
-/// that happen to come by under the pointer.
-void scrollInsteadOfChoosing(QWidget* panel)
+constexpr int messageMilliseconds = 4000;
+constexpr char geometryKey[] = "window/geometry";
+constexpr char folderKey[] = "files/folder";
+constexpr char recentKey[] = "files/recent";
+
+/// "12 ms", or "1.4 s" from a second on.
+QString durationText(qint64 milliseconds)
 {
-    for (QComboBox* box : panel->findChildren<QComboBox*>()) {
-        box->installEventFilter(panel);
-    }
+    const QLocale locale;
+    return milliseconds < 1000
+        ? ViewerWindow::tr("%1 ms").arg(locale.toString(milliseconds))
+        : ViewerWindow::tr("%1 s").arg(locale.toString(double(milliseconds) / 1000.0, 'f', 1));
+}
+
+QLabel* statusLabel(const char* objectName)
+{
+    auto* label = new QLabel;
+    label->setObjectName(objectName);
+    label->setTextFormat(Qt::PlainText);
+    return label;
 }
 
 } // namespace
@@ -48,26 +71,18 @@ ViewerWindow::ViewerWindow(QWidget* parent)
     : QMainWindow(parent)
 {
     setAcceptDrops(true);
-    createMenu();
     createPages();
+    createStatusBar();
+    m_menu = new ViewerMenu(this);
+    m_help = new HelpOverlay(m_menu->keys(), this);
     createIntensityWidget();
+    connect(&m_watch, &FileWatch::changed, this, &ViewerWindow::reload);
     // Room for the panel column, the strips beside the image and a little image.
     setMinimumSize(scaledForScreen(290) + 350, 480);
     showWelcome();
 }
 
-void ViewerWindow::createMenu()
-{
-    QMenu* file = menuBar()->addMenu(tr("&File"));
-    file->addAction(tr("&Open..."), this, &ViewerWindow::chooseFile, QKeySequence::Open);
-    file->addAction(
-        tr("Open &Folder..."), this, &ViewerWindow::chooseFolder, QKeySequence("Ctrl+Shift+O"));
-    file->addAction(tr("&Gallery"), this, &ViewerWindow::showMenuGallery, QKeySequence("Ctrl+G"));
-    file->addSeparator();
-    file->addAction(tr("&Close"), this, &ViewerWindow::closeFile, QKeySequence("Ctrl+W"));
-    file->addSeparator();
-    file->addAction(tr("&Quit"), this, &ViewerWindow::close, QKeySequence("Ctrl+Q"));
-}
+ViewerWindow::~ViewerWindow() = default;
 
 void ViewerWindow::createPages()
 {
@@ -85,13 +100,26 @@ void ViewerWindow::createPages()
     connect(m_galleryPage, &GalleryPage::imageRequested, this, &ViewerWindow::openFile);
     connect(m_galleryPage, &GalleryPage::openRequested, this, &ViewerWindow::chooseFile);
     connect(m_galleryPage, &GalleryPage::folderRequested, this, &ViewerWindow::chooseFolder);
+}
 
+/// File name, progress of a long load, size and depth, time to load.
+void ViewerWindow::createStatusBar()
+{
     m_fileName = new ElidedLabel;
     m_fileName->setObjectName("statusFileName");
-    m_imageSize = new QLabel;
-    m_imageSize->setObjectName("statusImageSize");
+    m_progress = new QProgressBar;
+    m_progress->setObjectName("statusProgress");
+    m_progress->setAccessibleName(tr("Progress of the load"));
+    m_progress->setFixedSize(scaledForScreen(160), scaledForScreen(14));
+    m_progress->hide();
+    m_imageSize = statusLabel("statusImageSize");
+    m_loadTime = statusLabel("statusLoadTime");
+    m_loadTime->setToolTip(tr("Time that the image took to load"));
     statusBar()->addWidget(m_fileName, 1);
-    statusBar()->addPermanentWidget(m_imageSize);
+    for (QWidget* widget : { static_cast<QWidget*>(m_progress), static_cast<QWidget*>(m_imageSize),
+             static_cast<QWidget*>(m_loadTime) }) {
+        statusBar()->addPermanentWidget(widget);
+    }
 }
 
 /// Makes a fresh intensity widget in place of the one there is.
@@ -104,33 +132,84 @@ void ViewerWindow::createIntensityWidget()
     }
     m_intensityWidget = new CVKIntensityWidget(this); // its panel looks for the slot in its parent
     m_pages->addWidget(m_intensityWidget);
-    for (QWidget* child : m_intensityWidget->findChildren<QWidget*>()) {
-        // The canvas would accept a dragged file and then do nothing with it.
-        child->setAcceptDrops(false);
-        if (child->inherits("CVKDisplayPreferences")) {
-            scrollInsteadOfChoosing(child);
-        }
+    m_controls = ImageControls(m_intensityWidget);
+    m_controls.prepare();
+    for (const auto* button : m_intensityWidget->findChildren<QRadioButton*>()) {
+        connect(button, &QRadioButton::toggled, this, &ViewerWindow::updateMenu);
     }
+    if (auto* axis = m_intensityWidget->findChild<QComboBox*>("comboBoxDisplay")) {
+        connect(
+            axis, qOverload<int>(&QComboBox::currentIndexChanged), this, &ViewerWindow::updateMenu);
+    }
+}
+
+bool ViewerWindow::restoreSession(std::unique_ptr<QSettings> settings)
+{
+    m_settings = std::move(settings);
+    m_recent = RecentFiles(m_settings->value(recentKey).toStringList());
+    m_folder = m_settings->value(folderKey).toString();
+    updateMenu();
+    return restoreGeometry(m_settings->value(geometryKey).toByteArray());
+}
+
+void ViewerWindow::storeSession()
+{
+    if (m_settings) {
+        m_settings->setValue(geometryKey, saveGeometry());
+        m_settings->setValue(folderKey, m_folder);
+        m_settings->setValue(recentKey, m_recent.paths());
+    }
+}
+
+void ViewerWindow::showPage(QWidget* page)
+{
+    m_pages->setCurrentWidget(page);
+    updateMenu();
+}
+
+/// What can be chosen follows the page in front, and within the image the view that it shows.
+void ViewerWindow::updateMenu()
+{
+    const QWidget* page = m_pages->currentWidget();
+    const bool isImage = page == m_intensityWidget;
+    const ImageView view = m_controls.shownView();
+    m_menu->setAvailable(isImage, isImage || page == m_problemPage);
+    m_menu->setZoomAvailable(isImage && view == ImageView::Image);
+    m_menu->markView(view);
+    QStringList recent;
+    for (int i = 0; i < m_recent.paths().size(); ++i) {
+        recent << m_recent.menuText(i);
+    }
+    m_menu->setRecentFiles(recent);
 }
 
 bool ViewerWindow::openFile(const QString& path)
 {
     const WaitCursor waitCursor;
+    QElapsedTimer clock;
+    clock.start();
     const QFileInfo file(path);
     m_folder = file.absolutePath();
     m_file = file.absoluteFilePath();
-    if (!loadIntoWidget(file.absoluteFilePath())) {
+    m_watch.watch(m_file); // before the load, which could miss the end of it
+    const bool loaded = loadIntoWidget(m_file);
+    m_progress->hide();
+    if (!loaded) {
         showProblem(path);
         return false;
     }
-    nameFile(path, imageSummary(path));
+    rememberFile(m_file);
+    updateMenu();
+    nameFile(path, imageSummary(path), durationText(clock.elapsed()));
     return true;
 }
 
-/// Loads with the widget in front, since only the page in front has its size. Nothing is painted
-/// before openFile() has decided which page stays.
+/// Loads with the widget in front, since only the page in front has its size. Nothing of it is
+/// painted before openFile() has decided which page stays.
 bool ViewerWindow::loadIntoWidget(const QString& path)
 {
+    announceLoading(path);
+    readAhead(path, [this](int percent) { showProgress(percent); });
     if (!m_intensityWidget) {
         createIntensityWidget();
     }
@@ -146,27 +225,56 @@ bool ViewerWindow::loadIntoWidget(const QString& path)
     return true;
 }
 
+/// The status bar says what is read. It is painted at once and without looking at other events: a
+/// key or a drop in the middle of a load waits for its end.
+void ViewerWindow::announceLoading(const QString& path)
+{
+    nameFile(path, QString(), QString());
+    if (QFileInfo(path).size() > smallFileSize) {
+        m_fileName->setText(tr("Loading %1...").arg(QFileInfo(path).fileName()));
+        m_progress->setValue(0);
+        m_progress->show();
+        QCoreApplication::sendPostedEvents(statusBar(), QEvent::LayoutRequest);
+        statusBar()->repaint();
+    }
+}
+
+void ViewerWindow::showProgress(int percent)
+{
+    m_progress->setValue(percent);
+    m_progress->repaint();
+}
+
 void ViewerWindow::showProblem(const QString& path)
 {
     m_problemPage->showProblem(path, loadProblem(path));
-    m_pages->setCurrentWidget(m_problemPage);
-    nameFile(path, QString());
+    showPage(m_problemPage);
+    nameFile(path, QString(), QString());
 }
 
-void ViewerWindow::nameFile(const QString& path, const QString& summary)
+void ViewerWindow::rememberFile(const QString& path)
 {
-    const QString absolute = QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath());
-    nameWindow(QFileInfo(path).fileName(), absolute, summary);
+    m_recent.add(path);
+    storeSession();
+}
+
+void ViewerWindow::nameFile(const QString& path, const QString& summary, const QString& time)
+{
+    const QFileInfo file(path);
+    nameWindow(file.fileName(), QDir::toNativeSeparators(file.absoluteFilePath()));
+    m_imageSize->setText(summary);
+    m_loadTime->setText(time);
 }
 
 /// Title of the window and texts of the status bar.
-void ViewerWindow::nameWindow(const QString& shown, const QString& status, const QString& summary)
+void ViewerWindow::nameWindow(const QString& shown, const QString& status)
 {
     const QString application = tr("VKIntensity Viewer");
     const QString name = shown.simplified();
     setWindowTitle(name.isEmpty() ? application : name + " - " + application);
     m_fileName->setText(status);
-    m_imageSize->setText(summary);
+    m_imageSize->clear();
+    m_loadTime->clear();
 }
 
 QString ViewerWindow::problem() const
@@ -206,13 +314,11 @@ void ViewerWindow::showGallery(const QString& folder)
     releaseImage();
     m_galleryPage->showFolder(folder, m_file);
     m_folder = m_galleryPage->folder();
-    m_pages->setCurrentWidget(m_galleryPage);
+    showPage(m_galleryPage);
     m_galleryPage->setFocus();
-    const QString name = QDir(m_folder).dirName();
-    nameWindow(name, QDir::toNativeSeparators(m_folder), QString());
+    nameWindow(QDir(m_folder).dirName(), QDir::toNativeSeparators(m_folder));
 }
 
-/// The gallery of the menu: before any folder is known, the user chooses one.
 void ViewerWindow::showMenuGallery()
 {
     if (m_folder.isEmpty()) {
@@ -231,13 +337,14 @@ void ViewerWindow::showWelcome()
 {
     releaseImage();
     m_galleryPage->stopLoading();
-    m_pages->setCurrentWidget(m_welcomePage);
-    nameWindow(QString(), tr("No image"), QString());
+    showPage(m_welcomePage);
+    nameWindow(QString(), tr("No image"));
 }
 
 /// Closes the image and brings the button that asked for it, if it did, back up.
 void ViewerWindow::releaseImage()
 {
+    m_watch.watch(QString());
     if (!m_intensityWidget) {
         return;
     }
@@ -267,9 +374,146 @@ void ViewerWindow::sltSwitchToGallery()
     }
 }
 
+void ViewerWindow::showNext()
+{
+    showNeighbour(1, tr("This is the last image of the folder."));
+}
+
+void ViewerWindow::showPrevious()
+{
+    showNeighbour(-1, tr("This is the first image of the folder."));
+}
+
+void ViewerWindow::showNeighbour(int step, const QString& lackOfOne)
+{
+    const QString path = neighbourInFolder(m_file, step);
+    if (path.isEmpty()) {
+        statusBar()->showMessage(lackOfOne, messageMilliseconds);
+    } else {
+        openFile(path);
+    }
+}
+
+void ViewerWindow::reload()
+{
+    if (!m_file.isEmpty()) {
+        openFile(m_file);
+    }
+}
+
+void ViewerWindow::openRecentFile(int index)
+{
+    const QString path = m_recent.paths().value(index);
+    if (path.isEmpty() || openFile(path)) {
+        return;
+    }
+    m_recent.remove(path);
+    storeSession();
+    updateMenu();
+}
+
+void ViewerWindow::clearRecentFiles()
+{
+    m_recent.clear();
+    storeSession();
+    updateMenu();
+}
+
+void ViewerWindow::copyWindow()
+{
+    QApplication::clipboard()->setPixmap(grab());
+    statusBar()->showMessage(tr("The window is on the clipboard."), messageMilliseconds);
+}
+
+void ViewerWindow::copyCanvas()
+{
+    if (QWidget* canvas = m_controls.canvas()) {
+        QApplication::clipboard()->setPixmap(canvas->grab());
+        statusBar()->showMessage(tr("The canvas is on the clipboard."), messageMilliseconds);
+    }
+}
+
+void ViewerWindow::saveScreenshot()
+{
+    const QPixmap picture = grab(); // before the dialog covers it
+    QFileDialog dialog(this, tr("Save Screenshot"), m_folder, tr("PNG picture (*.png)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix("png");
+    dialog.selectFile(QFileInfo(m_file).completeBaseName() + "-screenshot.png");
+    if (dialog.exec() != QDialog::Accepted) {
+        return;
+    }
+    const QString problem = savePicture(picture, dialog.selectedFiles().value(0));
+    if (problem.isEmpty()) {
+        statusBar()->showMessage(tr("The screenshot is saved."), messageMilliseconds);
+    } else {
+        QMessageBox::warning(this, tr("Save Screenshot"), problem);
+    }
+}
+
+void ViewerWindow::zoomIn()
+{
+    m_controls.zoomIn();
+}
+
+void ViewerWindow::zoomOut()
+{
+    m_controls.zoomOut();
+}
+
+void ViewerWindow::showImageView()
+{
+    m_controls.showView(ImageView::Image);
+}
+
+void ViewerWindow::showRowChart()
+{
+    m_controls.showView(ImageView::Row);
+}
+
+void ViewerWindow::showColumnChart()
+{
+    m_controls.showView(ImageView::Column);
+}
+
+void ViewerWindow::choosePalette(const QString& name)
+{
+    m_controls.choosePalette(name);
+}
+
+/// Nothing but the page is shown on a full screen; the keys go on working.
+void ViewerWindow::toggleFullScreen()
+{
+    const bool becomesFull = !isFullScreen();
+    menuBar()->setVisible(!becomesFull);
+    statusBar()->setVisible(!becomesFull);
+    setWindowState(windowState() ^ Qt::WindowFullScreen); // keeps whether it was maximised
+    m_menu->markFullScreen(becomesFull);
+}
+
+void ViewerWindow::showHelp()
+{
+    m_help->open();
+}
+
+void ViewerWindow::showAbout()
+{
+    QMessageBox::about(this, tr("About VKIntensity Viewer"),
+        tr("VKIntensity Viewer %1\n\nShows what is in a camera image: profiles, charts with "
+           "labelled peaks, regions of interest and their statistics.")
+            .arg(QCoreApplication::applicationVersion()));
+}
+
+void ViewerWindow::quit()
+{
+    close();
+}
+
 /// Nothing is read any more for a window that nobody sees.
 void ViewerWindow::closeEvent(QCloseEvent* event)
 {
+    storeSession();
+    m_watch.watch(QString());
     m_galleryPage->stopLoading();
     QMainWindow::closeEvent(event);
 }

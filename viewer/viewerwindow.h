@@ -1,15 +1,25 @@
 #pragma once
 
+#include "filewatch.h"
+#include "imagecontrols.h"
+#include "recentfiles.h"
+
 #include <QMainWindow>
 #include <QPointer>
+
+#include <memory>
 
 class CVKIntensityWidget;
 class ElidedLabel;
 class GalleryPage;
+class HelpOverlay;
 class LoadProblemPage;
 class QLabel;
 class QMimeData;
+class QProgressBar;
+class QSettings;
 class QStackedWidget;
+class ViewerMenu;
 class WelcomePage;
 
 /// The program's window: one image at a time in an intensity widget, the gallery of a folder, or a
@@ -20,6 +30,11 @@ class ViewerWindow : public QMainWindow
 
 public:
     explicit ViewerWindow(QWidget* parent = nullptr);
+    ~ViewerWindow() override;
+
+    /// Takes place, folder and recent files of the window from `settings` and keeps them there from
+    /// now on. Without this nothing is read or stored. False when no place was stored yet.
+    bool restoreSession(std::unique_ptr<QSettings> settings);
 
     /// Closes the image that is open and shows the file instead, or the page that says why not.
     /// True when the image is shown.
@@ -53,30 +68,77 @@ public Q_SLOTS:
     /// opened. The Return button of the intensity widget calls this by name.
     void sltSwitchToGallery();
 
+    /// The gallery of the folder that was shown last; before any, the user chooses one.
+    void showMenuGallery();
+
+    /// The image after or before this one in its folder, by name. At either end the status bar says
+    /// so, and nothing else happens.
+    void showNext();
+    void showPrevious();
+
+    /// Opens the file once more.
+    void reload();
+
+    void openRecentFile(int index);
+    void clearRecentFiles();
+
+    /// To the clipboard: all of the window, or the canvas with what is drawn on it.
+    void copyWindow();
+    void copyCanvas();
+
+    /// Asks for a file name and saves the window there as a PNG picture.
+    void saveScreenshot();
+
+    void zoomIn();
+    void zoomOut();
+    void showImageView();
+    void showRowChart();
+    void showColumnChart();
+    void choosePalette(const QString& name);
+
+    void toggleFullScreen();
+    void showHelp();
+    void showAbout();
+    void quit();
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
 private:
-    void createMenu();
     void createPages();
+    void createStatusBar();
     void createIntensityWidget();
-    void showMenuGallery();
+    void showPage(QWidget* page);
+    void updateMenu();
     void showWelcome();
     void releaseImage();
     bool loadIntoWidget(const QString& path);
+    void announceLoading(const QString& path);
+    void showProgress(int percent);
     void showProblem(const QString& path);
-    void nameFile(const QString& path, const QString& summary);
-    void nameWindow(const QString& shown, const QString& status, const QString& summary);
+    void showNeighbour(int step, const QString& lackOfOne);
+    void rememberFile(const QString& path);
+    void storeSession();
+    void nameFile(const QString& path, const QString& summary, const QString& time);
+    void nameWindow(const QString& shown, const QString& status);
 
     QStackedWidget* m_pages = nullptr;
     WelcomePage* m_welcomePage = nullptr;
     LoadProblemPage* m_problemPage = nullptr;
     GalleryPage* m_galleryPage = nullptr;
     QPointer<CVKIntensityWidget> m_intensityWidget; // deletes itself when it is closed
+    ImageControls m_controls; // of that widget
+    ViewerMenu* m_menu = nullptr;
+    HelpOverlay* m_help = nullptr;
     ElidedLabel* m_fileName = nullptr;
+    QProgressBar* m_progress = nullptr;
     QLabel* m_imageSize = nullptr;
+    QLabel* m_loadTime = nullptr;
+    FileWatch m_watch; // on the file that is shown
+    RecentFiles m_recent;
+    std::unique_ptr<QSettings> m_settings; // null: nothing is remembered
     QString m_folder; // of the file last opened, or the one of the gallery; empty before any
     QString m_file; // last opened; absolute
 };

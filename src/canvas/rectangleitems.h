@@ -23,7 +23,7 @@ public:
     QVector<RectangleItem*> items; ///< owned; one that somebody else destroys is dropped
     QSizeF defaultSize { 300.0, 300.0 }; ///< of a new region, in image pixels
     ImageLayoutItem* imageItem; ///< not owned
-    QString namePrefix { QStringLiteral("ROI") };
+    QString namePrefix { tr("ROI") };
     QStringList names; ///< as last announced
 
     /// Deletes every region. Announces nothing, and the names stay.

@@ -3,6 +3,8 @@
 #include "image/imagedata.h"
 #include "image/saturate.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 ReadoutPixel imageViewPixel(int x, int y, int height)
@@ -28,9 +30,8 @@ QString readoutText(const ReadoutPixel& pixel, const ImageData& image, const Rea
 {
     const int x = std::min(std::max(pixel.x, 0), image.width);
     const int row = std::min(std::max(pixel.row, 0), image.height);
-    return QStringLiteral("X:")
-        + QString::number(x * xAxis.scale + xAxis.offset, 'f', xAxis.decimals)
-        + QStringLiteral("  Y:")
-        + QString::number(pixel.shownY * yAxis.scale + yAxis.offset, 'f', yAxis.decimals)
-        + QStringLiteral("\nData:") + QString::number(image.pixelValue(x, row));
+    return QCoreApplication::translate("CVKIntensityMdiWidget", "X:%1  Y:%2\nData:%3")
+        .arg(QString::number(x * xAxis.scale + xAxis.offset, 'f', xAxis.decimals),
+            QString::number(pixel.shownY * yAxis.scale + yAxis.offset, 'f', yAxis.decimals),
+            QString::number(image.pixelValue(x, row)));
 }

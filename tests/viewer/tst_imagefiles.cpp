@@ -32,6 +32,11 @@ private Q_SLOTS:
     void hugeRawCutShort_data();
     void hugeRawCutShort();
     void size_isThatOfTheHeader();
+    void neighbours();
+    void neighbours_ofAFileThatIsGone();
+    void neighbours_withoutAFolder();
+    void depth_data();
+    void depth();
     void summary_data();
     void summary();
 
@@ -77,6 +82,12 @@ void TestImageFiles::initTestCase()
     QVERIFY(QFile::resize(path("sparse.raw"), Q_INT64_C(4294837249))); // 1024 + 65535 x 65535
     QVERIFY(QImage(12, 9, QImage::Format_RGB32).save(path("real.png")));
     QVERIFY(QFile::copy(path("real.png"), path("png.jpg")));
+    QVERIFY(QImage(12, 9, QImage::Format_Grayscale16).save(path("deep.png")));
+    QVERIFY(QImage(12, 9, QImage::Format_Mono).save(path("flat.png")));
+    QVERIFY(QImage(12, 9, QImage::Format_RGB32).save(path("real.bmp")));
+    write("deep.tif",
+        tiffFile(
+            { { 256, tiffShort, 1, 300 }, { 257, tiffShort, 1, 200 }, { 258, tiffShort, 1, 16 } }));
     write("real.tif", tiffFile({ { 256, tiffShort, 1, 300 }, { 257, tiffShort, 1, 200 } }));
 }
 
@@ -253,14 +264,81 @@ void TestImageFiles::hugeRawCutShort()
     QCOMPARE(isHugeRawFileCutShort(path("long.raw")), refused);
 }
 
+void TestImageFiles::neighbours()
+{
+    const QTemporaryDir folder;
+    for (const char* name : { "frame 1.png", "frame 2.png", "frame 10.png", "notes.txt" }) {
+        QVERIFY(QFile(folder.filePath(name)).open(QIODevice::WriteOnly));
+    }
+    const auto near = [&folder](const char* name, int step) {
+        return QFileInfo(neighbourInFolder(folder.filePath(name), step)).fileName();
+    };
+    QCOMPARE(near("frame 1.png", 1), QString("frame 2.png"));
+    QCOMPARE(near("frame 2.png", 1), QString("frame 10.png"));
+    QCOMPARE(near("frame 10.png", 1), QString()); // notes.txt is no image
+    QCOMPARE(near("frame 10.png", -1), QString("frame 2.png"));
+    QCOMPARE(near("frame 2.png", -1), QString("frame 1.png"));
+    QCOMPARE(near("frame 1.png", -1), QString());
+    QCOMPARE(QFileInfo(neighbourInFolder(folder.filePath("frame 1.png"), 1)).absolutePath(),
+        folder.path());
+}
+
+void TestImageFiles::neighbours_ofAFileThatIsGone()
+{
+    const QTemporaryDir folder;
+    for (const char* name : { "a.png", "c.png" }) {
+        QVERIFY(QFile(folder.filePath(name)).open(QIODevice::WriteOnly));
+    }
+    const auto near = [&folder](const char* name, int step) {
+        return QFileInfo(neighbourInFolder(folder.filePath(name), step)).fileName();
+    };
+    QCOMPARE(near("b.png", 1), QString("c.png"));
+    QCOMPARE(near("b.png", -1), QString("a.png"));
+    QCOMPARE(near("0.png", -1), QString());
+    QCOMPARE(near("0.png", 1), QString("a.png"));
+    QCOMPARE(near("z.png", 1), QString());
+    QCOMPARE(near("z.png", -1), QString("c.png"));
+}
+
+void TestImageFiles::neighbours_withoutAFolder()
+{
+    QVERIFY(neighbourInFolder("/no such folder/a.png", 1).isEmpty());
+    QVERIFY(neighbourInFolder("/no such folder/a.png", -1).isEmpty());
+}
+
+void TestImageFiles::depth_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("bits");
+    QTest::newRow("raw, 2 bytes") << "good.raw" << 16;
+    QTest::newRow("PNG, 8 bit") << "real.png" << 8;
+    QTest::newRow("PNG under another suffix") << "png.jpg" << 8;
+    QTest::newRow("PNG, 16 bit") << "deep.png" << 16;
+    QTest::newRow("PNG, 1 bit") << "flat.png" << 8;
+    QTest::newRow("TIFF, no depth given") << "real.tif" << 8;
+    QTest::newRow("TIFF, 16 bit") << "deep.tif" << 16;
+    QTest::newRow("BMP") << "real.bmp" << 8;
+    QTest::newRow("empty") << "nothing.bmp" << 0;
+    QTest::newRow("missing") << "gone.png" << 0;
+    QTest::newRow("no signature") << "fake.raw" << 0;
+}
+
+void TestImageFiles::depth()
+{
+    QFETCH(QString, name);
+    QFETCH(int, bits);
+    QCOMPARE(imageDepth(path(name)), bits);
+}
+
 void TestImageFiles::summary_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("text");
     QTest::newRow("raw") << "good.raw" << QString::fromUtf8("7 × 5 pixels   16 bit");
-    QTest::newRow("picture") << "real.png" << QString::fromUtf8("12 × 9 pixels");
-    QTest::newRow("TIFF") << "real.tif" << QString::fromUtf8("300 × 200 pixels");
-    QTest::newRow("PNG under another suffix") << "png.jpg" << QString::fromUtf8("12 × 9 pixels");
+    QTest::newRow("picture") << "real.png" << QString::fromUtf8("12 × 9 pixels   8 bit");
+    QTest::newRow("TIFF") << "real.tif" << QString::fromUtf8("300 × 200 pixels   8 bit");
+    QTest::newRow("PNG under another suffix")
+        << "png.jpg" << QString::fromUtf8("12 × 9 pixels   8 bit");
     QTest::newRow("raw without pixels") << "empty.raw" << QString();
     QTest::newRow("missing") << "gone.png" << QString();
     QTest::newRow("unreadable") << "text.png" << QString();

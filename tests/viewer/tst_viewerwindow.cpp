@@ -84,7 +84,6 @@ private Q_SLOTS:
     void escape_staysInTheImage();
     void wheel_overABoxScrollsThePanel();
     void path_ofAFolderShowsTheGallery();
-    void menu();
     void menuGallery_asksForAFolderFirst();
     void dialog_opensTheChosenFile();
     void dialog_opensTheChosenFolder();
@@ -213,12 +212,12 @@ void TestViewerWindow::open_theOldPictureNeverStays()
 void TestViewerWindow::open_aGoodFileAfterAProblem()
 {
     QVERIFY(m_window->openFile(path("rings.raw")));
-    const QImage direct = pictureOf(m_window.get());
+    const QImage direct = pictureOf(page());
     QVERIFY(!m_window->openFile(path("fake.png")));
     QVERIFY(m_window->openFile(path("rings.raw")));
     QCOMPARE(page(), intensity());
     QVERIFY(m_window->problem().isEmpty());
-    QCOMPARE(pictureOf(m_window.get()), direct);
+    QCOMPARE(pictureOf(page()), direct);
 }
 
 void TestViewerWindow::open_anEmptyRawFileReplacesTheWidget()
@@ -349,11 +348,11 @@ void TestViewerWindow::gallery_opensADoubleClickedImage()
 void TestViewerWindow::gallery_opensWithEnter()
 {
     QVERIFY(m_window->openFile(path("lamp.raw")));
-    const QImage direct = pictureOf(m_window.get());
+    const QImage direct = pictureOf(page());
     QTest::mouseClick(returnButton(), Qt::LeftButton);
     QTest::keyClick(galleryView(), Qt::Key_Return);
     QCOMPARE(page(), intensity());
-    QCOMPARE(pictureOf(m_window.get()), direct); // everything stands as after the first time
+    QCOMPARE(pictureOf(page()), direct); // everything stands as after the first time
 }
 
 void TestViewerWindow::gallery_ofAnUnreadableImageNamesTheProblem()
@@ -407,32 +406,6 @@ void TestViewerWindow::path_ofAFolderShowsTheGallery()
     QVERIFY(qobject_cast<LoadProblemPage*>(page()));
     QVERIFY(!m_window->openPath(QString()));
     QVERIFY(qobject_cast<LoadProblemPage*>(page()));
-}
-
-void TestViewerWindow::menu()
-{
-    const QMenuBar* bar = m_window->menuBar();
-    QCOMPARE(bar->actions().size(), 1);
-    QStringList texts;
-    QHash<QString, QAction*> actions;
-    for (QAction* action : bar->actions().first()->menu()->actions()) {
-        texts << action->text();
-        actions.insert(action->text(), action);
-    }
-    QCOMPARE(texts,
-        (QStringList { "&Open...", "Open &Folder...", "&Gallery", "", "&Close", "", "&Quit" }));
-    QCOMPARE(actions["&Open..."]->shortcut(), QKeySequence(QKeySequence::Open));
-    QCOMPARE(actions["Open &Folder..."]->shortcut(), QKeySequence("Ctrl+Shift+O"));
-    QCOMPARE(actions["&Gallery"]->shortcut(), QKeySequence("Ctrl+G"));
-    QVERIFY(m_window->openFile(path("lamp.raw")));
-    actions["&Gallery"]->trigger();
-    QCOMPARE(page(), gallery());
-    actions["&Close"]->trigger();
-    QVERIFY(qobject_cast<WelcomePage*>(page()));
-    actions["&Gallery"]->trigger(); // still knows the folder
-    QCOMPARE(page(), gallery());
-    actions["&Quit"]->trigger();
-    QVERIFY(!m_window->isVisible());
 }
 
 void TestViewerWindow::menuGallery_asksForAFolderFirst()

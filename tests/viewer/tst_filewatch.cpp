@@ -1,0 +1,161 @@
+#include "filewatch.h"
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class TestFileWatch : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void tells_ofAFileWrittenAnew();
+    void tells_onceOfManyWrites();
+    void tells_ofAFileInItsPlace();
+    void tells_ofAFileThatComesBack();
+    void tells_ofTheSecondChangeToo();
+    void isQuiet_whileTheFileIsGone();
+    void isQuiet_aboutOtherFiles();
+    void isQuiet_afterTheWatchHasEnded();
+    void watchesAnotherFileInstead();
+    void missingFolder();
+
+private:
+    QString path(const QString& name) const { return m_folder->filePath(name); }
+    void write(const QString& name, const QByteArray& bytes);
+
+    static constexpr int longEnough = 10 * FileWatch::restMilliseconds;
+    static constexpr int quiet = 3 * FileWatch::restMilliseconds;
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void TestFileWatch::write(const QString& name, const QByteArray& bytes)
+{
+    QFile file(path(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), qint64(bytes.size()));
+}
+
+void TestFileWatch::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    write("a.raw", "first");
+    write("b.raw", "other");
+}
+
+void TestFileWatch::tells_ofAFileWrittenAnew()
+{
+    FileWatch watch;
+    QSignalSpy changes(&watch, &FileWatch::changed);
+    watch.watch(path("a.raw"));
+    write("a.raw", "second one");
+    QVERIFY(changes.wait(longEnough));
+    QCOMPARE(changes.size(), 1);
+}
+
+void TestFileWatch::tells_onceOfManyWrites()
+{
+    FileWatch watch;
+    QSignalSpy changes(&watch, &FileWatch::changed);
+    watch.watch(path("a.raw"));
+    QFile file(path("a.raw"));
+    QVERIFY(file.open(QIODevice::Append));
+    for (int i = 0; i < 8; ++i) { // together longer than a rest
+        file.write("more");
+        file.flush();
+        QTest::qWait(FileWatch::restMilliseconds / 4);
+    }
+    QCOMPARE(changes.size(), 0);
+    QVERIFY(changes.wait(longEnough));
+    QTest::qWait(quiet);
+    QCOMPARE(changes.size(), 1);
+}
+
+void TestFileWatch::tells_ofAFileInItsPlace()
+{
+    FileWatch watch;
+    QSignalSpy changes(&watch, &FileWatch::changed);
+    watch.watch(path("a.raw"));
+    write("new", "written elsewhere");
+    QVERIFY(QFile::remove(path("a.raw")));
+    QVERIFY(QFile::rename(path("new"), path("a.raw")));
+    QVERIFY(changes.wait(longEnough));
+    QCOMPARE(changes.size(), 1);
+}
+
+void TestFileWatch::tells_ofAFileThatComesBack()
+{
+    FileWatch watch;
+    QSignalSpy changes(&watch, &FileWatch::changed);
+    QVERIFY(QFile::remove(path("a.raw")));
+    watch.watch(path("a.raw"));
+    write("a.raw", "back again");
+    QVERIFY(changes.wait(longEnough));
+}
+
+void TestFileWatch::tells_ofTheSecondChangeToo()
+{
+    FileWatch watch;
+    QSignalSpy changes(&watch, &FileWatch::changed);
+    watch.watch(path("a.raw"));
+    write("a.raw", "second one");
+    QVERIFY(changes.wait(longEnough));
+    QVERIFY(QFile::remove(path("a.raw")));
+    write("a.raw", "the third");
+    QVERIFY(changes.wait(longEnough));
+    QCOMPARE(changes.size(), 2);
+}
+
+void TestFileWatch::isQuiet_whileTheFileIsGone()
+{
+    FileWatch watch;
+    QSignalSpy changes(&watch, &FileWatch::changed);
+    watch.watch(path("a.raw"));
+    QVERIFY(QFile::remove(path("a.raw")));
+    QVERIFY(!changes.wait(quiet));
+}
+
+void TestFileWatch::isQuiet_aboutOtherFiles()
+{
+    FileWatch watch;
+    QSignalSpy changes(&watch, &FileWatch::changed);
+    watch.watch(path("a.raw"));
+    write("b.raw", "another text");
+    write("c.raw", "one more");
+    QVERIFY(!changes.wait(quiet));
+}
+
+void TestFileWatch::isQuiet_afterTheWatchHasEnded()
+{
+    FileWatch watch;
+    QSignalSpy changes(&watch, &FileWatch::changed);
+    watch.watch(path("a.raw"));
+    write("a.raw", "second one");
+    watch.watch(QString());
+    QVERIFY(!changes.wait(quiet));
+}
+
+void TestFileWatch::watchesAnotherFileInstead()
+{
+    FileWatch watch;
+    QSignalSpy changes(&watch, &FileWatch::changed);
+    watch.watch(path("a.raw"));
+    watch.watch(path("b.raw"));
+    write("a.raw", "second one");
+    QVERIFY(!changes.wait(quiet));
+    write("b.raw", "second one");
+    QVERIFY(changes.wait(longEnough));
+}
+
+void TestFileWatch::missingFolder()
+{
+    FileWatch watch;
+    QSignalSpy changes(&watch, &FileWatch::changed);
+    watch.watch(path("no such folder/a.raw"));
+    QVERIFY(!changes.wait(FileWatch::restMilliseconds));
+}
+
+QTEST_GUILESS_MAIN(TestFileWatch)
+#include "tst_filewatch.moc"

@@ -1,0 +1,685 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN">
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>--size needs WIDTHxHEIGHT, each from 1 to %1</source>
+        <translation>--size 需要 宽x高，各为 1 到 %1</translation>
+    </message>
+    <message>
+        <source>--view needs image, x or y</source>
+        <translation>--view 需要 image、x 或 y</translation>
+    </message>
+    <message>
+        <source>--peaks needs a number from 1 to %1</source>
+        <translation>--peaks 需要 1 到 %1 之间的数</translation>
+    </message>
+    <message>
+        <source>--palette needs gray, red, green, blue or color</source>
+        <translation>--palette 需要 gray、red、green、blue 或 color</translation>
+    </message>
+    <message>
+        <source>--wavelength needs START,WIDTH[,um|nm], START from 0 to %1, WIDTH from 1 to %2</source>
+        <translation>--wavelength 需要 起点,宽度[,um|nm]，起点为 0 到 %1，宽度为 1 到 %2</translation>
+    </message>
+    <message>
+        <source>--roi needs X,Y,WIDTH,HEIGHT in pixels from the top left</source>
+        <translation>--roi 需要 X,Y,宽,高，以像素计，从左上角起</translation>
+    </message>
+    <message>
+        <source>--screenshot needs a file name</source>
+        <translation>--screenshot 需要文件名</translation>
+    </message>
+    <message>
+        <source>unknown option %1 (see --help)</source>
+        <translation>未知选项 %1（见 --help）</translation>
+    </message>
+    <message>
+        <source>only one image can be opened</source>
+        <translation>只能打开一个图像</translation>
+    </message>
+    <message>
+        <source>the name of the image is empty</source>
+        <translation>图像名称为空</translation>
+    </message>
+    <message>
+        <source>--size goes with --screenshot</source>
+        <translation>--size 须与 --screenshot 一起使用</translation>
+    </message>
+    <message>
+        <source>--view, --peaks, --palette, --roi and --wavelength go with --screenshot</source>
+        <translation>--view、--peaks、--palette、--roi 和 --wavelength 须与 --screenshot 一起使用</translation>
+    </message>
+    <message>
+        <source>--screenshot needs an image to show</source>
+        <translation>--screenshot 需要一个图像</translation>
+    </message>
+    <message>
+        <source>--peaks goes with --view x or --view y</source>
+        <translation>--peaks 须与 --view x 或 --view y 一起使用</translation>
+    </message>
+    <message>
+        <source>Usage: vkviewer [IMAGE | FOLDER]
+       vkviewer --screenshot FILE.png [OPTIONS] IMAGE | FOLDER
+
+Shows a camera image with its intensity profiles, rulers and palette.
+IMAGE is a jpg, jpeg, tif, tiff, bmp or png picture or a raw camera file; of a FOLDER
+its images are shown in a gallery.
+
+  --screenshot FILE.png   save the window as a picture and exit
+  --size WIDTHxHEIGHT     size of that window in pixels
+  --view image|x|y        show the image, or its row or column as a chart
+  --peaks N               label the N strongest peaks of the chart, 1 to 200
+  --palette NAME          gray, red, green, blue or color
+  --roi X,Y,WIDTH,HEIGHT  mark a region, in pixels from the top left; can be given more
+                          than once, and prints what became of it on the screen
+  --wavelength START,WIDTH[,UNIT]
+                          label the axis in wavelengths: that of the first pixel, 0 to
+                          2000, what each pixel adds, 1 to 100, and the unit, um or nm
+  --help                  show this text
+  --version               show the version
+</source>
+        <translation>用法：vkviewer [图像 | 文件夹]
+      vkviewer --screenshot 文件.png [选项] 图像 | 文件夹
+
+显示相机图像及其强度剖面、标尺和调色板。
+图像可以是 jpg、jpeg、tif、tiff、bmp、png 图片或相机原始文件；
+文件夹中的图像以图库显示。
+
+  --screenshot 文件.png   将窗口保存为图片并退出
+  --size 宽x高            图片的大小，以像素计
+  --view image|x|y        显示图像，或以图表显示其行或列
+  --peaks N               标注图表中最强的 N 个峰，1 到 200
+  --palette 名称          gray、red、green、blue 或 color
+  --roi X,Y,宽,高         标记区域，以像素计，从左上角起；可多次给出，
+                          并输出其在屏幕上的结果
+  --wavelength 起点,宽度[,单位]
+                          以波长标注坐标轴：第一个像素的波长，0 到 2000；
+                          每个像素增加的量，1 到 100；单位为 um 或 nm
+  --help                  显示此文本
+  --version               显示版本
+</translation>
+    </message>
+</context>
+<context>
+    <name>ControlDriver</name>
+    <message>
+        <source>the control %1 has no entry %2</source>
+        <translation>控件 %1 没有第 %2 项</translation>
+    </message>
+    <message>
+        <source>the control %1 does not take %2</source>
+        <translation>控件 %1 不接受 %2</translation>
+    </message>
+    <message>
+        <source>the canvas takes no region</source>
+        <translation>画布不接受区域</translation>
+    </message>
+    <message>
+        <source>the panel does not tell where the region is</source>
+        <translation>面板没有显示区域位置</translation>
+    </message>
+    <message>
+        <source>%1: x %2, y %3 (from the top %4 to %5)</source>
+        <translation>%1：x %2，y %3（从顶部算 %4 至 %5）</translation>
+    </message>
+    <message>
+        <source>the control %1 is disabled</source>
+        <translation>控件 %1 不可用</translation>
+    </message>
+    <message>
+        <source>there is no control %1</source>
+        <translation>没有控件 %1</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyFolderPage</name>
+    <message>
+        <source>Choose Folder...</source>
+        <translation>选择文件夹...</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryPage</name>
+    <message>
+        <source>Choose Folder...</source>
+        <translation>选择文件夹...</translation>
+    </message>
+    <message>
+        <source>1 image</source>
+        <translation>1 个图像</translation>
+    </message>
+    <message>
+        <source>%1 images</source>
+        <translation>%1 个图像</translation>
+    </message>
+    <message>
+        <source>No images in this folder</source>
+        <translation>此文件夹中没有图像</translation>
+    </message>
+    <message>
+        <source>Images end in %1.</source>
+        <translation>图像的后缀为 %1。</translation>
+    </message>
+    <message>
+        <source>This folder cannot be read</source>
+        <translation>无法读取此文件夹</translation>
+    </message>
+    <message>
+        <source>It is missing, or you have no permission to read it.</source>
+        <translation>它不存在，或您没有读取权限。</translation>
+    </message>
+</context>
+<context>
+    <name>HelpOverlay</name>
+    <message>
+        <source>Click the image</source>
+        <translation>单击图像</translation>
+    </message>
+    <message>
+        <source>Move the cross-hair</source>
+        <translation>移动十字线</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>滚轮</translation>
+    </message>
+    <message>
+        <source>Zoom the image</source>
+        <translation>缩放图像</translation>
+    </message>
+    <message>
+        <source>Drag a profile</source>
+        <translation>拖动剖面图</translation>
+    </message>
+    <message>
+        <source>Scroll the zoomed image</source>
+        <translation>滚动放大的图像</translation>
+    </message>
+    <message>
+        <source>Drag a region</source>
+        <translation>拖动区域</translation>
+    </message>
+    <message>
+        <source>Move the region of interest</source>
+        <translation>移动感兴趣区域</translation>
+    </message>
+    <message>
+        <source>Drag a corner</source>
+        <translation>拖动角点</translation>
+    </message>
+    <message>
+        <source>Resize the region of interest</source>
+        <translation>调整感兴趣区域大小</translation>
+    </message>
+    <message>
+        <source>Click the chart</source>
+        <translation>单击图表</translation>
+    </message>
+    <message>
+        <source>Read a sample of the profile</source>
+        <translation>读取剖面上的值</translation>
+    </message>
+    <message>
+        <source>Click a title bar</source>
+        <translation>单击标题栏</translation>
+    </message>
+    <message>
+        <source>Fold a part of the panel</source>
+        <translation>折叠面板的一部分</translation>
+    </message>
+    <message>
+        <source>Drop a file or folder</source>
+        <translation>拖入文件或文件夹</translation>
+    </message>
+    <message>
+        <source>Open it</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Mouse and keys</source>
+        <translation>鼠标与按键</translation>
+    </message>
+    <message>
+        <source>Mouse</source>
+        <translation>鼠标</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>按键</translation>
+    </message>
+    <message>
+        <source>Any key or a click closes this.</source>
+        <translation>按任意键或单击即可关闭。</translation>
+    </message>
+</context>
+<context>
+    <name>ImageControls</name>
+    <message>
+        <source>Return to the gallery</source>
+        <translation>返回图库</translation>
+    </message>
+    <message>
+        <source>Fold the display preferences</source>
+        <translation>折叠显示设置</translation>
+    </message>
+    <message>
+        <source>Axis of the chart</source>
+        <translation>图表的轴</translation>
+    </message>
+    <message>
+        <source>Number of peak labels</source>
+        <translation>峰值标注数</translation>
+    </message>
+    <message>
+        <source>Gray palette</source>
+        <translation>灰色调色板</translation>
+    </message>
+    <message>
+        <source>Red palette</source>
+        <translation>红色调色板</translation>
+    </message>
+    <message>
+        <source>Green palette</source>
+        <translation>绿色调色板</translation>
+    </message>
+    <message>
+        <source>Blue palette</source>
+        <translation>蓝色调色板</translation>
+    </message>
+    <message>
+        <source>Color palette</source>
+        <translation>彩色调色板</translation>
+    </message>
+    <message>
+        <source>Label of the horizontal axis</source>
+        <translation>水平轴的标签</translation>
+    </message>
+    <message>
+        <source>Unit of the wavelength</source>
+        <translation>波长单位</translation>
+    </message>
+    <message>
+        <source>Wavelength of the first pixel</source>
+        <translation>第一个像素的波长</translation>
+    </message>
+    <message>
+        <source>Wavelength of one pixel</source>
+        <translation>每个像素的波长</translation>
+    </message>
+    <message>
+        <source>Fold the data histogram</source>
+        <translation>折叠数据直方图</translation>
+    </message>
+    <message>
+        <source>Region of interest</source>
+        <translation>感兴趣区域</translation>
+    </message>
+    <message>
+        <source>Add a region of interest</source>
+        <translation>添加感兴趣区域</translation>
+    </message>
+    <message>
+        <source>Delete the region of interest</source>
+        <translation>删除感兴趣区域</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>图像</translation>
+    </message>
+</context>
+<context>
+    <name>ImageFiles</name>
+    <message>
+        <source>There is no file of this name.</source>
+        <translation>没有此名称的文件。</translation>
+    </message>
+    <message>
+        <source>This is a folder, not an image file.</source>
+        <translation>这是文件夹，不是图像文件。</translation>
+    </message>
+    <message>
+        <source>This is not a regular file.</source>
+        <translation>这不是普通文件。</translation>
+    </message>
+    <message>
+        <source>The file name has no suffix. Images end in %1.</source>
+        <translation>文件名没有后缀。图像的后缀为 %1。</translation>
+    </message>
+    <message>
+        <source>Files of the kind &quot;%1&quot; are not known. Images end in %2.</source>
+        <translation>不支持“%1”类型的文件。图像的后缀为 %2。</translation>
+    </message>
+    <message>
+        <source>You have no permission to read this file.</source>
+        <translation>您没有读取此文件的权限。</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>文件为空。</translation>
+    </message>
+    <message>
+        <source>The file cannot be opened.</source>
+        <translation>无法打开文件。</translation>
+    </message>
+    <message>
+        <source>This is no raw camera file: it does not carry the camera&apos;s signature.</source>
+        <translation>这不是相机原始文件：缺少相机签名。</translation>
+    </message>
+    <message>
+        <source>This raw camera file holds no pixels.</source>
+        <translation>此相机原始文件不含像素。</translation>
+    </message>
+    <message>
+        <source>This raw camera file claims %1 x %2 pixels but does not hold them.</source>
+        <translation>此相机原始文件声称有 %1 x %2 像素，但实际没有。</translation>
+    </message>
+    <message>
+        <source>This raw camera file claims %1 x %2 pixels with %3 channels of %4 bytes, which is more than can be loaded.</source>
+        <translation>此相机原始文件声称有 %1 x %2 像素、%3 个通道、每通道 %4 字节，超出可加载的大小。</translation>
+    </message>
+    <message>
+        <source>Images (%1)</source>
+        <translation>图像 (%1)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>The file cannot be read as a %1 image: it is damaged, or of another kind than its suffix says.</source>
+        <translation>无法将文件作为 %1 图像读取：文件已损坏，或类型与后缀不符。</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation>%1 × %2 像素</translation>
+    </message>
+    <message>
+        <source>%1 bit</source>
+        <translation>%1 位</translation>
+    </message>
+</context>
+<context>
+    <name>LoadProblemPage</name>
+    <message>
+        <source>This file cannot be shown</source>
+        <translation>无法显示此文件</translation>
+    </message>
+</context>
+<context>
+    <name>PictureFile</name>
+    <message>
+        <source>%1: cannot be written: %2</source>
+        <translation>%1：无法写入：%2</translation>
+    </message>
+</context>
+<context>
+    <name>Screenshot</name>
+    <message>
+        <source>the window is at least %1x%2 pixels</source>
+        <translation>窗口至少为 %1x%2 像素</translation>
+    </message>
+    <message>
+        <source>the size of the image cannot be told</source>
+        <translation>无法确定图像大小</translation>
+    </message>
+    <message>
+        <source>the region %1,%2,%3,%4 does not lie inside the image of %5x%6 pixels</source>
+        <translation>区域 %1,%2,%3,%4 不在 %5x%6 像素的图像内</translation>
+    </message>
+    <message>
+        <source>%1: only an image has controls to set</source>
+        <translation>%1：只有图像才有可设置的控件</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerMenu</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>打开(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder...</source>
+        <translation>打开文件夹(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>最近打开(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Gallery</source>
+        <translation>图库(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Next Image</source>
+        <translation>下一个图像(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Image</source>
+        <translation>上一个图像(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>重新加载(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Save Screenshot...</source>
+        <translation>保存截图(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Window</source>
+        <translation>复制窗口(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy C&amp;anvas</source>
+        <translation>复制画布(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>放大(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>缩小(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Palette</source>
+        <translation>调色板(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Full Screen</source>
+        <translation>全屏(&amp;F)</translation>
+    </message>
+    <message>
+        <source>I&amp;mage</source>
+        <translation>图像(&amp;M)</translation>
+    </message>
+    <message>
+        <source>2D Chart of the &amp;Row</source>
+        <translation>行的 2D 图表(&amp;R)</translation>
+    </message>
+    <message>
+        <source>2D Chart of the &amp;Column</source>
+        <translation>列的 2D 图表(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Gray</source>
+        <translation>灰色(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Red</source>
+        <translation>红色(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Gr&amp;een</source>
+        <translation>绿色(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Blue</source>
+        <translation>蓝色(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Color</source>
+        <translation>彩色(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Gray palette</source>
+        <translation>灰色调色板</translation>
+    </message>
+    <message>
+        <source>Red palette</source>
+        <translation>红色调色板</translation>
+    </message>
+    <message>
+        <source>Green palette</source>
+        <translation>绿色调色板</translation>
+    </message>
+    <message>
+        <source>Blue palette</source>
+        <translation>蓝色调色板</translation>
+    </message>
+    <message>
+        <source>Color palette</source>
+        <translation>彩色调色板</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Mouse and Keys</source>
+        <translation>鼠标与按键(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>关于(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Clear</source>
+        <translation>清除(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerWindow</name>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 毫秒</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>Progress of the load</source>
+        <translation>加载进度</translation>
+    </message>
+    <message>
+        <source>Time that the image took to load</source>
+        <translation>图像加载用时</translation>
+    </message>
+    <message>
+        <source>Loading %1...</source>
+        <translation>正在加载 %1...</translation>
+    </message>
+    <message>
+        <source>VKIntensity Viewer</source>
+        <translation>VKIntensity Viewer</translation>
+    </message>
+    <message>
+        <source>Open Image</source>
+        <translation>打开图像</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>打开文件夹</translation>
+    </message>
+    <message>
+        <source>No image</source>
+        <translation>没有图像</translation>
+    </message>
+    <message>
+        <source>This is the last image of the folder.</source>
+        <translation>这是文件夹中的最后一个图像。</translation>
+    </message>
+    <message>
+        <source>This is the first image of the folder.</source>
+        <translation>这是文件夹中的第一个图像。</translation>
+    </message>
+    <message>
+        <source>The window is on the clipboard.</source>
+        <translation>窗口已复制到剪贴板。</translation>
+    </message>
+    <message>
+        <source>The canvas is on the clipboard.</source>
+        <translation>画布已复制到剪贴板。</translation>
+    </message>
+    <message>
+        <source>Save Screenshot</source>
+        <translation>保存截图</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png)</source>
+        <translation>PNG 图片 (*.png)</translation>
+    </message>
+    <message>
+        <source>The screenshot is saved.</source>
+        <translation>截图已保存。</translation>
+    </message>
+    <message>
+        <source>About VKIntensity Viewer</source>
+        <translation>关于 VKIntensity Viewer</translation>
+    </message>
+    <message>
+        <source>VKIntensity Viewer %1
+
+Shows what is in a camera image: profiles, charts with labelled peaks, regions of interest and their statistics.</source>
+        <translation>VKIntensity Viewer %1
+
+显示相机图像的内容：剖面、带峰值标注的图表、感兴趣区域及其统计数据。</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomePage</name>
+    <message>
+        <source>Open Image...</source>
+        <translation>打开图像...</translation>
+    </message>
+    <message>
+        <source>Drop a camera image here</source>
+        <translation>将相机图像拖到此处</translation>
+    </message>
+    <message>
+        <source>JPEG, TIFF, BMP, PNG, or a raw camera file</source>
+        <translation>JPEG、TIFF、BMP、PNG 或相机原始文件</translation>
+    </message>
+</context>
+</TS>

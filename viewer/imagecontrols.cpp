@@ -1,0 +1,190 @@
+#include "imagecontrols.h"
+
+#include "wheelnotches.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QGraphicsView>
+#include <QVector>
+
+#include <iterator>
+
+namespace {
+
+struct NamedControl
+{
+    const char* objectName;
+    const char* spoken; ///< null where the control carries a text of its own
+};
+
+/// In the order in which they stand: the panel from top to bottom, then the canvas. The two fold
+/// buttons share one object name.
+constexpr NamedControl namedControls[] {
+    { "Return", QT_TRANSLATE_NOOP("ImageControls", "Return to the gallery") },
+    { "left_flex1", QT_TRANSLATE_NOOP("ImageControls", "Fold the display preferences") },
+    { "radioButtonImage", nullptr },
+    { "radioButton2D", nullptr },
+    { "comboBoxDisplay", QT_TRANSLATE_NOOP("ImageControls", "Axis of the chart") },
+    { "checkBoxPeak", nullptr },
+    { "lineEditPeaks", QT_TRANSLATE_NOOP("ImageControls", "Number of peak labels") },
+    { "pushButtonGray", QT_TRANSLATE_NOOP("ImageControls", "Gray palette") },
+    { "pushButtonRed", QT_TRANSLATE_NOOP("ImageControls", "Red palette") },
+    { "pushButtonGreen", QT_TRANSLATE_NOOP("ImageControls", "Green palette") },
+    { "pushButtonBlue", QT_TRANSLATE_NOOP("ImageControls", "Blue palette") },
+    { "pushButtonColor", QT_TRANSLATE_NOOP("ImageControls", "Color palette") },
+    { "comboBoxType", QT_TRANSLATE_NOOP("ImageControls", "Label of the horizontal axis") },
+    { "comboBoxUnits", QT_TRANSLATE_NOOP("ImageControls", "Unit of the wavelength") },
+    { "lineEditXStart", QT_TRANSLATE_NOOP("ImageControls", "Wavelength of the first pixel") },
+    { "lineEditPixelWidth", QT_TRANSLATE_NOOP("ImageControls", "Wavelength of one pixel") },
+    { "pushButtonApply", nullptr },
+    { "left_flex1", QT_TRANSLATE_NOOP("ImageControls", "Fold the data histogram") },
+    { "comboBoxRoi", QT_TRANSLATE_NOOP("ImageControls", "Region of interest") },
+    { "pushButtonAdd", QT_TRANSLATE_NOOP("ImageControls", "Add a region of interest") },
+    { "pushButtonDelete", QT_TRANSLATE_NOOP("ImageControls", "Delete the region of interest") },
+    { "tool_Zoom_In", QT_TRANSLATE_NOOP("ImageControls", "Zoom in") },
+    { "tool_Zoom_Out", QT_TRANSLATE_NOOP("ImageControls", "Zoom out") },
+};
+
+/// The controls in that order; null for one that is not there.
+QVector<QWidget*> controlsInOrder(const QWidget* parent)
+{
+    QHash<QString, int> used; // controls of this name that are taken
+    QVector<QWidget*> controls;
+    for (const NamedControl& named : namedControls) {
+        const QString name = named.objectName;
+        controls << parent->findChildren<QWidget*>(name).value(used[name]++);
+    }
+    return controls;
+}
+
+} // namespace
+
+ImageControls::ImageControls(QWidget* intensityWidget)
+    : m_widget(intensityWidget)
+{
+}
+
+void ImageControls::prepare()
+{
+    if (!m_widget) {
+        return;
+    }
+    for (QWidget* child : m_widget->findChildren<QWidget*>()) {
+        child->setAcceptDrops(false); // the canvas would take a file and then do nothing with it
+    }
+    scrollInsteadOfChoosing();
+    if (auto* view = m_widget->findChild<QGraphicsView*>()) {
+        view->viewport()->installEventFilter(new WheelNotchFilter(view));
+        view->setAccessibleName(QCoreApplication::translate("ImageControls", "Image"));
+    }
+    nameControls();
+    orderControls();
+}
+
+/// The wheel over a box scrolls the column; it would else change settings that happen to come by
+/// under the pointer.
+void ImageControls::scrollInsteadOfChoosing()
+{
+    for (QWidget* child : m_widget->findChildren<QWidget*>()) {
+        if (!child->inherits("CVKDisplayPreferences")) {
+            continue;
+        }
+        for (QComboBox* box : child->findChildren<QComboBox*>()) {
+            box->installEventFilter(child);
+        }
+    }
+}
+
+void ImageControls::nameControls()
+{
+    const QVector<QWidget*> controls = controlsInOrder(m_widget);
+    for (int i = 0; i < int(std::size(namedControls)); ++i) {
+        const char* spoken = namedControls[i].spoken;
+        if (controls[i] && spoken) {
+            controls[i]->setAccessibleName(QCoreApplication::translate("ImageControls", spoken));
+        }
+    }
+}
+
+void ImageControls::orderControls()
+{
+    QWidget* previous = nullptr;
+    for (QWidget* next : controlsInOrder(m_widget)) {
+        if (previous && next) {
+            QWidget::setTabOrder(previous, next);
+        }
+        previous = next ? next : previous;
+    }
+}
+
+template <class Control>
+Control* ImageControls::control(const QString& name) const
+{
+    auto* found = m_widget ? m_widget->findChild<Control*>(name) : nullptr;
+    return found && found->isEnabled() ? found : nullptr;
+}
+
+void ImageControls::click(const QString& name)
+{
+    if (auto* button = control<QAbstractButton>(name)) {
+        button->click();
+    }
+}
+
+bool ImageControls::canZoom() const
+{
+    const auto* button = control<QAbstractButton>("tool_Zoom_In");
+    return button && button->isVisible();
+}
+
+void ImageControls::zoomIn()
+{
+    if (canZoom()) {
+        click("tool_Zoom_In");
+    }
+}
+
+void ImageControls::zoomOut()
+{
+    if (canZoom()) {
+        click("tool_Zoom_Out");
+    }
+}
+
+void ImageControls::showView(ImageView view)
+{
+    if (view == ImageView::Image) {
+        click("radioButtonImage");
+        return;
+    }
+    click("radioButton2D"); // enables the box
+    if (auto* axis = control<QComboBox>("comboBoxDisplay")) {
+        axis->setCurrentIndex(view == ImageView::Row ? 0 : 1);
+    }
+}
+
+ImageView ImageControls::shownView() const
+{
+    const auto* chart = control<QAbstractButton>("radioButton2D");
+    if (!chart || !chart->isChecked()) {
+        return ImageView::Image;
+    }
+    const auto* axis = control<QComboBox>("comboBoxDisplay");
+    return axis && axis->currentIndex() == 1 ? ImageView::Column : ImageView::Row;
+}
+
+void ImageControls::choosePalette(const QString& name)
+{
+    click("pushButton" + name);
+}
+
+QStringList ImageControls::paletteNames()
+{
+    return { "Gray", "Red", "Green", "Blue", "Color" };
+}
+
+QWidget* ImageControls::canvas() const
+{
+    return m_widget ? m_widget->findChild<QGraphicsView*>() : nullptr;
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QPointer>
+#include <QStringList>
+#include <QWidget>
+
+/// What the panel can show of an image.
+enum class ImageView { Image, Row, Column };
+
+/// Works the named controls of an intensity widget for menus and shortcuts: each call is a click on
+/// a button or a choice in a box that the user could make as well. A control that is missing,
+/// disabled or (a zoom button beside a chart) hidden is left alone.
+class ImageControls
+{
+public:
+    explicit ImageControls(QWidget* intensityWidget = nullptr);
+
+    /// Makes a widget fit for the viewer: it takes no drops, its wheel zooms by whole notches and
+    /// scrolls the panel, its controls have accessible names and follow each other as they stand.
+    void prepare();
+
+    void zoomIn();
+    void zoomOut();
+    bool canZoom() const;
+
+    void showView(ImageView view);
+    ImageView shownView() const;
+
+    /// `name` is one of paletteNames().
+    void choosePalette(const QString& name);
+
+    /// As the panel's buttons carry them: "Gray", "Red", "Green", "Blue", "Color".
+    static QStringList paletteNames();
+
+    /// The canvas alone, without panel and zoom buttons; null without a widget.
+    QWidget* canvas() const;
+
+private:
+    template <class Control>
+    Control* control(const QString& name) const;
+    void click(const QString& name);
+    void scrollInsteadOfChoosing();
+    void nameControls();
+    void orderControls();
+
+    QPointer<QWidget> m_widget;
+};
