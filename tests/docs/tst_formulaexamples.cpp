@@ -1,9 +1,11 @@
 #include "analysis/imageintensityanalysis.h"
 #include "image/imagedata.h"
 #include "panel/cvkdatahistogram.h"
+#include "plots/columnmap.h"
 #include "plots/peakdetection.h"
 #include "plots/peaklabels.h"
 #include "plots/rulerbarhorizontal.h"
+#include "plots/rulerbarvertical.h"
 #include "plots/rulerscale.h"
 #include "plots/valuerange.h"
 #include "widget/readout.h"
@@ -33,6 +35,8 @@ private Q_SLOTS:
     void shortWavelengthSpanIsWidened();
     void rulerLabels();
     void grayScaleLabels();
+    void chartValueLabels();
+    void chartValueLabelsWithPeaks();
     void peaksAtTheFirstScale();
     void peaksOfPlateaus();
     void risingProfileListsEverySample();
@@ -58,6 +62,15 @@ QVector<int> indices(const DetectedPeaks& detected)
 DetectedPeaks detected(const std::vector<uchar>& levels)
 {
     return detectPeaks(levels.data(), int(levels.size()));
+}
+
+/// The value axis of a chart 240 high, with values from 1000 to 5000.
+void showChartRange(RulerBarVertical& axis)
+{
+    axis.setLabelPrecision(0);
+    axis.setSize(90.0, 240.0);
+    axis.changedShowValueRange(1000.0, 5000.0);
+    axis.setGeometry(QRectF(0.0, 0.0, 90.0, 240.0));
 }
 
 QString shownText(const QWidget& panel, const QString& name)
@@ -210,6 +223,27 @@ void TestFormulaExamples::grayScaleLabels()
     ruler.changedShowValueRange(1000.0, 5000.0);
     ruler.setGeometry(QRectF(0.0, 0.0, 500.0, 50.0));
     QCOMPARE(ruler.labels(), QStringList({ "1800", "2600", "3400", "4200" }));
+}
+
+void TestFormulaExamples::chartValueLabels()
+{
+    RulerBarVertical axis(QStringLiteral("Gray"), nullptr);
+    showChartRange(axis);
+    QCOMPARE(axis.labels(), QStringList({ "1800", "2600", "3400", "4200", "5000" }));
+}
+
+void TestFormulaExamples::chartValueLabelsWithPeaks()
+{
+    RulerBarVertical axis(QStringLiteral("Gray"), nullptr);
+    showChartRange(axis);
+    axis.setZoom(1.2);
+    QCOMPARE(axis.labels(), QStringList({ "2600", "3400", "4200", "5000" }));
+    // Ticks stand one unit lower, inside the frame.
+    QCOMPARE(axis.labelledTicks().first().y1(), 184.0 + 1.0);
+    QCOMPARE(axis.labelledTicks().last().y1(), 40.0 + 1.0);
+    const LevelAxis curve = chartLevelAxis(QSizeF(300.0, 240.0), 1, 1.2);
+    QCOMPARE(curve.y(255), 40.0 + 1.0);
+    QCOMPARE(curve.baseline - 0.28 * 255 * curve.unitsPerLevel, 184.0 + 1.0);
 }
 
 void TestFormulaExamples::peaksAtTheFirstScale()
