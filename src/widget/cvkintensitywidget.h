@@ -50,7 +50,9 @@ Q_SIGNALS:
     void sglChangeSize();
 
 protected:
+    /// Paints the skin of the column behind the panel.
     void paintEvent(QPaintEvent* event) override;
+    /// Gives the panel its column and the canvas the rest.
     void resizeEvent(QResizeEvent* event) override;
 
 private:
