@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Add</source>
-        <translation>Hinzufügen</translation>
+        <translation>Neu</translation>
     </message>
     <message>
         <source>Delete</source>

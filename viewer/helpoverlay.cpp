@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -21,24 +22,6 @@ QLabel* helpLabel(const char* objectName, const QString& text)
     label->setObjectName(objectName);
     label->setTextFormat(Qt::PlainText);
     return label;
-}
-
-/// Lines below a heading: keys on the left, what they do on the right.
-QWidget* section(const QString& heading, const QVector<HelpLine>& lines)
-{
-    auto* box = new QWidget;
-    auto* grid = new QGridLayout(box);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(scaledForScreen(14));
-    grid->setVerticalSpacing(scaledForScreen(5));
-    grid->addWidget(helpLabel("helpHeading", heading), 0, 0, 1, 2);
-    for (int i = 0; i < int(lines.size()); ++i) {
-        grid->addWidget(helpLabel("helpKeys", lines[i].keys), i + 1, 0);
-        grid->addWidget(helpLabel("helpEffect", lines[i].effect), i + 1, 1);
-    }
-    grid->setRowStretch(int(lines.size()) + 1, 1);
-    grid->setColumnStretch(1, 1);
-    return box;
 }
 
 /// What the intensity widget does with the mouse.
@@ -68,26 +51,23 @@ HelpOverlay::HelpOverlay(const QVector<HelpLine>& keys, QWidget* window)
     setFocusPolicy(Qt::StrongFocus);
     m_card->setObjectName("helpCard");
 
-    auto* columns = new QWidget;
-    columns->setObjectName("helpColumns");
-    auto* row = new QHBoxLayout(columns);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(scaledForScreen(36));
+    auto* lines = new QWidget;
+    lines->setObjectName("helpLines");
+    m_grid = new QGridLayout(lines);
+    m_grid->setContentsMargins(0, 0, 0, 0);
+    m_grid->setHorizontalSpacing(scaledForScreen(14));
+    m_grid->setVerticalSpacing(scaledForScreen(5));
     const int half = (int(keys.size()) + 1) / 2;
-    auto* right = new QWidget;
-    auto* rightColumn = new QVBoxLayout(right);
-    rightColumn->setContentsMargins(0, 0, 0, 0);
-    rightColumn->setSpacing(scaledForScreen(16));
-    rightColumn->addWidget(section(tr("Mouse"), mouseLines()));
-    rightColumn->addStretch(1);
-    row->addWidget(section(tr("Keys"), keys.mid(0, half)));
-    row->addWidget(section(QString(), keys.mid(half)));
-    row->addWidget(right);
+    addSection(tr("Keys"), keys.mid(0, half));
+    addSection(QString(), keys.mid(half));
+    addSection(tr("Mouse"), mouseLines());
+    arrange(false); // from now on the texts belong to the card and are shown with it
 
     m_scroll->setObjectName("helpScroll");
     m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->setFocusPolicy(Qt::NoFocus);
-    m_scroll->setWidget(columns);
+    m_scroll->setWidget(lines);
+    m_scroll->setWidgetResizable(true);
     auto* card = new QVBoxLayout(m_card);
     const int margin = scaledForScreen(22);
     card->setContentsMargins(margin, margin, margin, margin);
@@ -102,9 +82,9 @@ HelpOverlay::HelpOverlay(const QVector<HelpLine>& keys, QWidget* window)
 void HelpOverlay::open()
 {
     m_focusBefore = window()->focusWidget();
-    cover();
-    show();
+    show(); // the style sheet reaches the texts, which then know their size
     raise();
+    cover();
     setFocus();
 }
 
@@ -116,23 +96,65 @@ void HelpOverlay::dismiss()
     }
 }
 
+void HelpOverlay::addSection(const QString& heading, const QVector<HelpLine>& lines)
+{
+    Section section;
+    section.heading = helpLabel("helpHeading", heading);
+    for (const HelpLine& line : lines) {
+        section.keys << helpLabel("helpKeys", line.keys);
+        section.effects << helpLabel("helpEffect", line.effect);
+    }
+    m_sections << section;
+}
+
+/// The sections side by side, or one below the other.
+void HelpOverlay::arrange(bool stacked)
+{
+    while (QLayoutItem* item = m_grid->takeAt(0)) {
+        delete item; // the labels stay
+    }
+    int row = 0;
+    int column = 0;
+    for (const Section& section : m_sections) {
+        m_grid->addWidget(section.heading, row++, column, 1, 2);
+        section.heading->setVisible(!stacked || !section.heading->text().isEmpty());
+        for (int i = 0; i < int(section.keys.size()); ++i) {
+            m_grid->addWidget(section.keys[i], row, column);
+            m_grid->addWidget(section.effects[i], row++, column + 1);
+        }
+        if (!stacked) {
+            row = 0;
+            column += 3;
+        }
+    }
+    for (const int gap : { 2, 5 }) {
+        m_grid->setColumnMinimumWidth(gap, stacked ? 0 : scaledForScreen(16));
+    }
+    m_grid->activate();
+}
+
+/// Size of the card that needs no scroll bar.
+QSize HelpOverlay::wantedSize() const
+{
+    return m_scroll->widget()->sizeHint() + m_card->sizeHint() - m_scroll->sizeHint();
+}
+
 /// Lies over the whole window, with the card in the middle, as large as it wants to be or as the
 /// window allows.
 void HelpOverlay::cover()
 {
     setGeometry(parentWidget()->rect());
     const int around = scaledForScreen(12);
-    const QMargins inner = m_card->layout()->contentsMargins();
-    const QSize bar(m_scroll->verticalScrollBar()->sizeHint().width(), 0);
-    const int hint = m_card->findChild<QLabel*>("helpHint")->sizeHint().height();
-    const QSize wanted = m_scroll->widget()->sizeHint()
-        + QSize(inner.left() + inner.right(),
-            inner.top() + inner.bottom() + m_card->layout()->spacing() + hint)
-        + bar;
     const QSize room = size() - QSize(2 * around, 2 * around);
-    const QSize granted = wanted.boundedTo(room);
-    m_card->setGeometry(
-        QRect(QPoint((width() - granted.width()) / 2, (height() - granted.height()) / 2), granted));
+    arrange(false);
+    QSize wanted = wantedSize();
+    if (wanted.width() > room.width()) {
+        arrange(true);
+        wanted = wantedSize() + QSize(m_scroll->verticalScrollBar()->sizeHint().width(), 0);
+    }
+    QRect place(QPoint(), wanted.boundedTo(room));
+    place.moveCenter(rect().center());
+    m_card->setGeometry(place);
 }
 
 bool HelpOverlay::eventFilter(QObject* watched, QEvent* event)

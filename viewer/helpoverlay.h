@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class QGridLayout;
+class QLabel;
 class QScrollArea;
 
 /// One line of the help: what to press, and what it does.
@@ -35,10 +36,22 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void dismiss();
+    struct Section
+    {
+        QLabel* heading = nullptr;
+        QVector<QLabel*> keys;
+        QVector<QLabel*> effects; // beside them
+    };
+
+    void addSection(const QString& heading, const QVector<HelpLine>& lines);
+    void arrange(bool stacked);
+    QSize wantedSize() const;
     void cover();
+    void dismiss();
 
     QWidget* m_card;
     QScrollArea* m_scroll;
+    QGridLayout* m_grid = nullptr;
+    QVector<Section> m_sections;
     QPointer<QWidget> m_focusBefore;
 };
