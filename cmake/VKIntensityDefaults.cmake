@@ -1,6 +1,7 @@
 # Compile settings that every target of this project carries; nothing is set globally.
 
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(vkintensity_sanitizers -fsanitize=address,undefined)
 
 # vkintensity_target_defaults(<target>): C++17, warnings, exact floating point, hidden symbols,
 # and the sanitizers when VKINTENSITY_SANITIZE is on.
@@ -23,8 +24,8 @@ function(vkintensity_target_defaults target)
         if(VKINTENSITY_SANITIZE)
             target_compile_options(${target} PRIVATE
                 -O1 -g1 # finds as much as -O0 and lets the whole suite run in minutes
-                -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-            target_link_options(${target} PRIVATE -fsanitize=address,undefined)
+                ${vkintensity_sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+            target_link_options(${target} PRIVATE ${vkintensity_sanitizers})
         endif()
     elseif(MSVC)
         target_compile_options(${target} PRIVATE /W4 /utf-8 /fp:precise)

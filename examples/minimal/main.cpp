@@ -1,0 +1,28 @@
+#include <cvkintensitywidget.h>
+
+#include <QApplication>
+#include <QMainWindow>
+
+// Usage: minimal IMAGE [PICTURE]
+// Shows IMAGE in a window; with PICTURE, saves the window to that file and quits.
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    QApplication::setPalette(QColor(44, 52, 62)); // dark: captions and rulers are white
+    application.setStyleSheet("QPushButton#tool_Zoom_In { background: #48acba; }"
+                              "QPushButton#tool_Zoom_Out { background: #286c76; }");
+    QMainWindow window;
+    auto* intensity = new CVKIntensityWidget(&window);
+    window.setCentralWidget(intensity);
+    window.resize(1280, 800);
+    window.show();
+    if (!intensity->loadImage(arguments.value(1))) {
+        qWarning("The image cannot be shown.");
+        return 1;
+    }
+    if (arguments.size() > 2) {
+        return window.grab().save(arguments.at(2)) ? 0 : 1;
+    }
+    return QApplication::exec();
+}

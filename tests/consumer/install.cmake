@@ -1,0 +1,6 @@
+# Installs BUILD_DIR afresh into PREFIX, so that nothing is found there which an earlier one left.
+file(REMOVE_RECURSE "${PREFIX}")
+unset(ENV{DESTDIR})
+execute_process(
+    COMMAND "${CMAKE_COMMAND}" --install "${BUILD_DIR}" --config "${CONFIG}" --prefix "${PREFIX}"
+    OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)

@@ -1,0 +1,41 @@
+# What stands where below PREFIX, and what its package files must not tell.
+function(expect_content description actual)
+    if(NOT "${actual}" STREQUAL "${ARGN}")
+        message(SEND_ERROR "${description}: ${actual}\nexpected: ${ARGN}")
+    endif()
+endfunction()
+
+file(GLOB_RECURSE headers RELATIVE "${PREFIX}/include" "${PREFIX}/include/*")
+expect_content("Headers" "${headers}"
+    vkintensitywidget/cvkintensitywidget.h vkintensitywidget/vkintensitywidget_export.h)
+
+file(GLOB libraries RELATIVE "${PREFIX}/${LIBDIR}" "${PREFIX}/${LIBDIR}/lib*")
+expect_content("Libraries" "${libraries}" libVKIntensityWidget.so
+    libVKIntensityWidget.so.${SOVERSION} libVKIntensityWidget.so.${VERSION})
+
+# The palettes are read from beside the program behind the link.
+file(REAL_PATH "${PREFIX}/bin/vkviewer" program)
+cmake_path(GET program PARENT_PATH program_dir)
+file(GLOB palettes RELATIVE "${program_dir}" "${program_dir}/pal/*")
+expect_content("Palettes" "${palettes}" pal/blue.pal pal/color.pal pal/green.pal pal/red.pal)
+
+set(application org.vkintensity.VKViewer)
+file(GLOB_RECURSE shared RELATIVE "${PREFIX}/share" "${PREFIX}/share/${application}*")
+expect_content("Desktop files" "${shared}"
+    applications/${application}.desktop
+    icons/hicolor/256x256/apps/${application}.png
+    metainfo/${application}.metainfo.xml
+    mime/packages/${application}.xml)
+
+file(GLOB package_files "${PREFIX}/${LIBDIR}/cmake/VKIntensityWidget/*"
+    "${PREFIX}/${LIBDIR}/pkgconfig/*")
+list(LENGTH package_files count)
+if(count LESS 5)
+    message(SEND_ERROR "Package files: ${package_files}")
+endif()
+foreach(file IN LISTS package_files)
+    file(STRINGS "${file}" leaks REGEX "opencv|hwy|vkintensity_internal")
+    if(leaks)
+        message(SEND_ERROR "${file} tells what the library is made with: ${leaks}")
+    endif()
+endforeach()

@@ -1,0 +1,11 @@
+# Builds SOURCE with the compiler alone and what pkg-config says, and runs it on FRAME.
+set(ENV{PKG_CONFIG_PATH} "${PREFIX}/${LIBDIR}/pkgconfig")
+execute_process(COMMAND "${PKG_CONFIG}" --cflags --libs vkintensitywidget
+    OUTPUT_VARIABLE package_flags COMMAND_ERROR_IS_FATAL ANY)
+separate_arguments(flags UNIX_COMMAND "${FLAGS}")
+separate_arguments(package_flags UNIX_COMMAND "${package_flags}")
+execute_process(
+    COMMAND "${COMPILER}" -std=c++17 -fPIC ${flags} "${SOURCE}" -o "${PROGRAM}" ${package_flags}
+        "-Wl,-rpath,${PREFIX}/${LIBDIR}"
+    COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND "${PROGRAM}" "${FRAME}" "${PICTURE}" COMMAND_ERROR_IS_FATAL ANY)
