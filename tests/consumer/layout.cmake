@@ -1,4 +1,6 @@
 # What stands where below PREFIX, and what its package files must not tell.
+cmake_minimum_required(VERSION 3.25)
+
 function(expect_content description actual)
     if(NOT "${actual}" STREQUAL "${ARGN}")
         message(SEND_ERROR "${description}: ${actual}\nexpected: ${ARGN}")

@@ -1,4 +1,5 @@
 # Builds SOURCE with the compiler alone and what pkg-config says, and runs it on FRAME.
+cmake_minimum_required(VERSION 3.25)
 set(ENV{PKG_CONFIG_PATH} "${PREFIX}/${LIBDIR}/pkgconfig")
 execute_process(COMMAND "${PKG_CONFIG}" --cflags --libs vkintensitywidget
     OUTPUT_VARIABLE package_flags COMMAND_ERROR_IS_FATAL ANY)
