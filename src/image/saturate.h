@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qtcompat.h"
+
 #include <QPoint>
 #include <QPointF>
 #include <QRect>
@@ -29,19 +31,20 @@ inline int truncated(double value)
     return int(bounded(value));
 }
 
-/// QPointF::toPoint of the bounded point: each coordinate rounded to nearest.
+/// The bounded point with each coordinate rounded to nearest.
 inline QPoint roundedPoint(const QPointF& point)
 {
-    return QPointF(bounded(point.x()), bounded(point.y())).toPoint();
+    return QtCompat::toPoint(QPointF(bounded(point.x()), bounded(point.y())));
 }
 
-/// QSizeF::toSize of the bounded size: each extent rounded to nearest.
+/// The bounded size with each extent rounded to nearest.
 inline QSize roundedSize(const QSizeF& size)
 {
-    return QSizeF(bounded(size.width()), bounded(size.height())).toSize();
+    return QtCompat::toSize(QSizeF(bounded(size.width()), bounded(size.height())));
 }
 
-/// QRectF::toRect of the rectangle whose corners are bounded and whose extents reach 2^30 at most.
+/// The rectangle whose corners are bounded and whose extents reach 2^30 at most, with each edge
+/// rounded to nearest.
 inline QRect roundedRect(const QRectF& rect)
 {
     const double left = bounded(rect.x());
@@ -51,9 +54,9 @@ inline QRect roundedRect(const QRectF& rect)
         && bounded(rect.y() + rect.height()) == rect.y() + rect.height()
         && bounded(rect.width()) == rect.width() && bounded(rect.height()) == rect.height();
     if (fits) {
-        return rect.toRect();
+        return QtCompat::toRect(rect);
     }
     const double width = bounded(bounded(left + bounded(rect.width())) - left);
     const double height = bounded(bounded(top + bounded(rect.height())) - top);
-    return QRectF(left, top, width, height).toRect();
+    return QtCompat::toRect(QRectF(left, top, width, height));
 }
