@@ -106,7 +106,7 @@ bool decodeRawHeader(const QByteArray& bytes, RawHeader* header)
 {
     QByteArray padded = bytes.left(rawHeaderSize);
     padded.append(QByteArray(rawHeaderSize - padded.size(), '\0'));
-    const int textEnd = padded.indexOf('\0');
+    const int textEnd = int(padded.indexOf('\0'));
     if (!padded.left(textEnd < 0 ? rawHeaderSize : textEnd).contains(signature)) {
         return false;
     }

@@ -82,7 +82,7 @@ int GalleryModel::rowOf(const QString& path) const
 
 int GalleryModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : m_entries.size();
+    return parent.isValid() ? 0 : int(m_entries.size());
 }
 
 QVariant GalleryModel::data(const QModelIndex& index, int role) const

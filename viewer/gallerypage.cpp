@@ -136,7 +136,7 @@ void GalleryPage::startLoading()
     const QVector<ThumbnailRequest> requests = m_model.waiting();
     m_loader.start(requests, GalleryDelegate::pictureSize() * devicePixelRatioF());
     preferVisible();
-    m_progress->setRange(0, requests.size());
+    m_progress->setRange(0, int(requests.size()));
     m_progress->setValue(0);
     m_progress->setVisible(m_loader.isLoading());
 }

@@ -84,7 +84,7 @@ QImage stretchedThumbnail(const SampleFrame& frame, const QSize& size)
         return QImage();
     }
     const auto [low, high] = std::minmax_element(means.begin(), means.end());
-    const int lineLength = size.width() * frame.shown.size();
+    const int lineLength = size.width() * int(frame.shown.size());
     for (int row = 0; row < size.height(); ++row) {
         uchar* const line = picture.scanLine(row);
         for (int i = 0; i < lineLength; ++i) {

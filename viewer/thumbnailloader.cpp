@@ -21,7 +21,7 @@ public:
     explicit Batch(const QVector<ThumbnailRequest>& requests)
         : m_requests(requests)
         , m_taken(requests.size(), false)
-        , m_left(requests.size())
+        , m_left(int(requests.size()))
     {
     }
 
@@ -45,7 +45,7 @@ bool ThumbnailLoader::Batch::take(ThumbnailRequest* request)
         return false;
     }
     while (m_taken.at(m_next)) { // ends, since one is left
-        m_next = (m_next + 1) % m_requests.size();
+        m_next = (m_next + 1) % int(m_requests.size());
     }
     m_taken[m_next] = true;
     --m_left;
@@ -87,7 +87,7 @@ void ThumbnailLoader::start(const QVector<ThumbnailRequest>& requests, const QSi
         return;
     }
     m_batch = std::make_shared<Batch>(requests);
-    m_missing = requests.size();
+    m_missing = int(requests.size());
     const int threads = std::min(m_pool.maxThreadCount(), m_missing);
     for (int i = 0; i < threads; ++i) {
         m_pool.start([this, batch = m_batch, bounds] { work(batch, bounds); });

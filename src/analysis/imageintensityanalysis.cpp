@@ -168,7 +168,7 @@ void ImageIntensityAnalysis::changedDrawRect(QRectF rect)
 
 void ImageIntensityAnalysis::changedColors(QVector<QColor> color)
 {
-    const int count = std::min(color.size(), int(palette.size()));
+    const int count = std::min(int(color.size()), int(palette.size()));
     for (int i = 0; i < count; ++i) {
         const QColor& c = color.at(i);
         palette[size_t(i)] = { uchar(c.red()), uchar(c.green()), uchar(c.blue()) };

@@ -83,7 +83,7 @@ void RectangleItem::drawLabel(QPainter* painter)
 {
     QFont font = painter->font();
     font.setPixelSize(16);
-    font.setWeight(75);
+    font.setWeight(QFont::Bold);
     painter->setFont(font);
     const double lineHeight = QFontMetricsF(font).height();
     painter->drawText(

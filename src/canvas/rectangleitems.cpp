@@ -71,7 +71,7 @@ void RectangleItems::addItem()
     }
     const QPointF origin(int(image.width() - defaultSize.width()) / 2,
         int(image.height() - defaultSize.height()) / 2);
-    const int index = items.size();
+    const int index = int(items.size());
     auto* const item = new RectangleItem(imageItem, index + 1);
     QRectF onItem = imageItem->mapRectFromImage(QRectF(origin, defaultSize));
     imageItem->snapRect(onItem);
@@ -144,7 +144,7 @@ void RectangleItems::selectItem(int index)
 
 void RectangleItems::changedRoi(RectangleItem* item, QRectF rect)
 {
-    const int index = items.indexOf(item);
+    const int index = int(items.indexOf(item));
     if (!imageItem || index < 0 || (rect.width() == 0.0 && rect.height() == 0.0)) {
         return;
     }
@@ -230,7 +230,7 @@ void RectangleItems::announceNames()
 /// Forgets an item that somebody else destroys.
 void RectangleItems::drop(RectangleItem* item)
 {
-    const int index = items.indexOf(item);
+    const int index = int(items.indexOf(item));
     if (index >= 0) {
         items.removeAt(index);
         rects.removeAt(index);

@@ -2,7 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QStringRef>
+#include <QStringView>
 #include <QTextStream>
 
 #include <new>
@@ -14,17 +14,17 @@ constexpr qint64 maxCharacters = qint64(64) << 20;
 
 /// Takes the part in front of the next space off `rest` and reads it as a number, 0 if it is none.
 /// Two spaces in a row have an empty field between them.
-int takeField(QStringRef& rest)
+int takeField(QStringView& rest)
 {
-    const int space = rest.indexOf(QLatin1Char(' '));
-    const QStringRef field = rest.left(space); // all of it when there is no space
-    rest = space < 0 ? QStringRef() : rest.mid(space + 1);
+    const auto space = rest.indexOf(QLatin1Char(' '));
+    const QStringView field = space < 0 ? rest : rest.left(space);
+    rest = space < 0 ? QStringView() : rest.mid(space + 1);
     return field.toInt();
 }
 
 QColor lineColor(const QString& line)
 {
-    QStringRef rest(&line);
+    QStringView rest(line);
     const int red = takeField(rest);
     const int green = takeField(rest);
     const int blue = takeField(rest);

@@ -41,7 +41,7 @@ QVector<QLineF> chartPolyline(
 {
     Q_ASSERT(samples && count >= 1 && !map.isEmpty());
     const auto columnY = [&](int column) {
-        const int shown = map.at(std::min(column, map.size() - 1));
+        const int shown = map.at(std::min(column, int(map.size()) - 1));
         return axis.y(nearestSample(samples, count, shown));
     };
     QVector<QLineF> lines;

@@ -60,7 +60,7 @@ void GradientColorLayoutItem::drawContents(QPainter* painter)
     if (m_colors.isEmpty()) {
         return;
     }
-    const int step = colorStep(m_colors.size(), m_cells.size());
+    const int step = colorStep(int(m_colors.size()), int(m_cells.size()));
     for (int i = 0; i < m_cells.size(); ++i) {
         painter->fillRect(m_cells.at(i), QBrush(m_colors.at(i * step), Qt::SolidPattern));
     }

@@ -150,7 +150,7 @@ void IntensityCurveAxisItem::pick(double x)
         return;
     }
     const int column
-        = std::clamp(truncated(std::min(x, size.width() - 1.0)), 0, m_columnMap.size() - 1);
+        = std::clamp(truncated(std::min(x, size.width() - 1.0)), 0, int(m_columnMap.size()) - 1);
     m_anchorIndex = m_columnMap.at(column);
     if (m_anchorIndex < 0) {
         m_anchorIndex = truncated(sampleCount() / size.width() * x);
@@ -200,7 +200,8 @@ void IntensityCurveAxisItem::layOutLabels(const QFont& font)
 {
     const PeakLabelNumbers numbers = peakLabelNumbers(m_range, sampleCount(), calibratedDecimals);
     const QFontMetricsF metrics(font);
-    const int labelled = std::min({ m_shownPeaks, m_detected.peaks.size(), m_peakTicks.size() });
+    const int labelled
+        = std::min({ m_shownPeaks, int(m_detected.peaks.size()), int(m_peakTicks.size()) });
     QVector<double> widths;
     m_labels.clear();
     for (int i = 0; i < labelled; ++i) {

@@ -15,7 +15,7 @@ QVector<QLineF> peakTicks(const QVector<Peak>& peaks, int shown, const uchar* sa
     double width, const LevelAxis& axis)
 {
     QVector<QLineF> ticks;
-    const int ticked = std::min(peaks.size(), shown);
+    const int ticked = std::min(int(peaks.size()), shown);
     for (int i = 0; i < ticked; ++i) {
         const int index = peaks.at(i).index;
         const double x = truncated(index * width / count);
@@ -41,7 +41,7 @@ PeakLabelNumbers peakLabelNumbers(const ValueRange& range, int count, int decima
 void layOutPeakLabels(QVector<Peak>& peaks, const QVector<QLineF>& ticks,
     const QVector<double>& widths, double lineHeight)
 {
-    const int labelled = std::min({ peaks.size(), ticks.size(), widths.size() });
+    const int labelled = int(std::min({ peaks.size(), ticks.size(), widths.size() }));
     for (int j = 0; j < labelled; ++j) {
         Peak& peak = peaks[j];
         const double width = widths.at(j);

@@ -179,6 +179,7 @@ void TestImageIntensityAnalysis::metaObject_listsSignalsAndSlotsInOrder()
 {
     const QMetaObject& meta = ImageIntensityAnalysis::staticMetaObject;
     QVERIFY(meta.superClass() == &QObject::staticMetaObject);
+    const QString palette = QMetaObject::normalizedType("QVector<QColor>"); // as this Qt spells it
     QStringList methods;
     for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
         const QMetaMethod method = meta.method(i);
@@ -201,7 +202,7 @@ void TestImageIntensityAnalysis::metaObject_listsSignalsAndSlotsInOrder()
             "signal updateLineValueRange(double,double) min,max", // as Qt writes qreal
             "slot changedDrawRect(QRectF) rect",
             "slot changedIntensityRoi(int,QRectF) selected,rect",
-            "slot changedColors(QVector<QColor>) color",
+            "slot changedColors(" + palette + ") color",
             "slot changedAnchorPosition(QPointF) anchorImage",
             "slot sendUpdetaIntensityHistogramSignal() ",
         }));
@@ -364,8 +365,8 @@ void TestImageIntensityAnalysis::setImageData_keepsTheQImageObject()
     QVERIFY(setGrayImage<uchar>(image, 8, 2, std::vector<uchar>(16, 1)));
     QSize sizeAtSignal;
     connect(&engine, &ImageIntensityAnalysis::updateImage, this, [&] {
-        sizeAtSignal = shown->size();
-        shown->copy(); // reads every pixel of what the pointer shows now
+        const QImage copy = shown->copy(); // reads every pixel of what the pointer shows now
+        sizeAtSignal = copy.size();
     });
     engine.setImageData(&image);
     QVERIFY(engine.displayImage == shown);
@@ -580,7 +581,6 @@ void TestImageIntensityAnalysis::changedDrawRect_sendsTheShownPart()
     ImageIntensityAnalysis engine(&image);
     SignalLog log(engine);
     engine.changedDrawRect(QRectF(0.6, 1.0, 2.0, 1.2));
-    QCOMPARE(engine.drawRect, QRectF(0.6, 1.0, 2.0, 1.2).toRect());
     QCOMPARE(engine.drawRect, QRect(1, 1, 2, 1));
     QCOMPARE(log.take(),
         (QStringList { "vertical [0 153]", "horizontal [0 51 102]", "vertical [0 153] 1 1",

@@ -180,7 +180,7 @@ void TestCVKDataHistogram::click(const QString& button)
 void TestCVKDataHistogram::send(QVector<uint> counts, uint min)
 {
     m_panel->updateRoiIntensityHistogram(
-        counts.data(), counts.size(), min, min + uint(counts.size()) - 1);
+        counts.data(), int(counts.size()), min, min + uint(counts.size()) - 1);
 }
 
 QVector<Entry> TestCVKDataHistogram::painted() const
@@ -547,7 +547,7 @@ void TestCVKDataHistogram::paint_unevenStart()
     const QVector<QLineF> lines = paintedLines();
     const double left = frame().left();
     const double bottom = frame().bottom();
-    const double step = double(frame().height() - 2) / (counts.size() - 1);
+    const double step = double(frame().height() - 2) / (int(counts.size()) - 1);
     QVERIFY(lines.at(0) == QLineF(left + 2, bottom, left + 3, bottom - 1.0 * step));
     QVERIFY(lines.at(1) == QLineF(left + 3, bottom - 1.0 * step, left + 4, bottom - 3.0 * step));
     QVERIFY(lines.last().x2() == frame().right());

@@ -130,7 +130,7 @@ void TestCVKIntensityCtrlTitleBar::title_buildsLabelAndButton()
     m_bar->setTitle(3, "Data Histogram");
     QCOMPARE(m_bar->moduleIndex(), 3);
     QCOMPARE(label()->text(), QString("Data Histogram"));
-    QCOMPARE(label()->font().weight(), 75);
+    QCOMPARE(int(label()->font().weight()), int(QFont::Bold));
     QCOMPARE(label()->styleSheet(), QString("color: rgb(250, 250, 250);"));
     QCOMPARE(label()->alignment(), Qt::AlignLeft | Qt::AlignVCenter);
     QCOMPARE(label()->minimumWidth(), expectedSizes().labelWidth);

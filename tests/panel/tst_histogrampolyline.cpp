@@ -9,8 +9,8 @@ namespace {
 QVector<QLineF> polyline(const QVector<uint>& counts, const QRect& frame)
 {
     QVector<QLineF> lines;
-    buildHistogramPolyline(
-        lines, counts.data(), counts.size(), countRange(counts.data(), counts.size()), frame);
+    buildHistogramPolyline(lines, counts.data(), int(counts.size()),
+        countRange(counts.data(), int(counts.size())), frame);
     return lines;
 }
 
@@ -75,7 +75,7 @@ void TestHistogramPolyline::range_data()
 void TestHistogramPolyline::range()
 {
     QFETCH(QVector<uint>, counts);
-    const CountRange range = countRange(counts.data(), counts.size());
+    const CountRange range = countRange(counts.data(), int(counts.size()));
     QTEST(range.smallest, "smallest");
     QTEST(range.largest, "largest");
 }
@@ -224,7 +224,7 @@ void TestHistogramPolyline::linesAreReplacedAndKeepTheirCapacity()
 {
     QVector<QLineF> lines(500);
     const QVector<uint> counts = ramp(11, 3);
-    buildHistogramPolyline(lines, counts.data(), counts.size(), { 0, 30 }, frame);
+    buildHistogramPolyline(lines, counts.data(), int(counts.size()), { 0, 30 }, frame);
     QCOMPARE(lines.size(), 9);
     QVERIFY(lines.capacity() >= 500);
 }

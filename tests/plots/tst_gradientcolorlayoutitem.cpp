@@ -69,11 +69,12 @@ void TestGradientColorLayoutItem::metaObject_signatures()
     const QMetaObject& meta = GradientColorLayoutItem::staticMetaObject;
     const int first = meta.methodOffset();
     QCOMPARE(meta.methodCount() - first, 2);
-    QCOMPARE(meta.method(first).methodSignature(), QByteArray("changeColors(QVector<QColor>)"));
+    QCOMPARE(meta.method(first).methodSignature(),
+        QMetaObject::normalizedSignature("changeColors(QVector<QColor>)"));
     QCOMPARE(meta.method(first).methodType(), QMetaMethod::Signal);
     QCOMPARE(meta.method(first).parameterNames(), QList<QByteArray> { "color" });
-    QCOMPARE(
-        meta.method(first + 1).methodSignature(), QByteArray("changedPalette(QVector<QColor>)"));
+    QCOMPARE(meta.method(first + 1).methodSignature(),
+        QMetaObject::normalizedSignature("changedPalette(QVector<QColor>)"));
     QCOMPARE(meta.method(first + 1).methodType(), QMetaMethod::Slot);
     QCOMPARE(meta.method(first + 1).parameterNames(), QList<QByteArray> { "color" });
 }
@@ -159,7 +160,7 @@ void TestGradientColorLayoutItem::changedPalette_lastOfNestedCallsStays()
     GradientColorLayoutItem bar(nullptr);
     QVector<int> announced;
     connect(&bar, &GradientColorLayoutItem::changeColors, this, [&](QVector<QColor> colors) {
-        announced.append(colors.size());
+        announced.append(int(colors.size()));
         if (colors.size() == 256) {
             bar.changedPalette(reds(10));
         }

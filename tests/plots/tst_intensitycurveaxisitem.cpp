@@ -177,7 +177,7 @@ void TestIntensityCurveAxisItem::detection_ofTheSameSamplesAgain()
     Chart chart;
     chart.show(spikes({ { 20, 200 }, { 21, 100 }, { 23, 150 } }));
     const QVector<int> map = chart.columnMap();
-    const int found = chart.peaks().size();
+    const auto found = chart.peaks().size();
     chart.changedShowPeaksState(true);
     chart.painted();
     QVERIFY(chart.peaks().first().label != QPointF(-1.0, -1.0));
@@ -294,7 +294,7 @@ void TestIntensityCurveAxisItem::peaks_areDrawnWhenShown()
     Chart chart;
     chart.show(spikes({ { 20, 200 } }));
     QVERIFY(chart.painted().texts().isEmpty());
-    const int without = chart.painted().lines().size();
+    const auto without = chart.painted().lines().size();
     chart.changedShowPeaksState(true);
     const RecordingPaintDevice& shown = chart.painted();
     QCOMPARE(shown.lines().size(), without + 1);

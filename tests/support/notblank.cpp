@@ -15,7 +15,7 @@ int main(int argc, char** argv)
         }
     }
     if (colours.size() < 100) {
-        std::fprintf(stderr, "notblank: %d colours in %s\n", colours.size(), argv[argc - 1]);
+        std::fprintf(stderr, "notblank: %d colours in %s\n", int(colours.size()), argv[argc - 1]);
         return 1;
     }
     return 0;

@@ -299,7 +299,7 @@ void TestGalleryPage::stop_keepsWhatHasCome()
     m_page->stopLoading();
     QVERIFY(!m_page->isLoading());
     QVERIFY(!child<QProgressBar>("galleryProgress")->isVisible());
-    const int ready = readyRows().size();
+    const auto ready = readyRows().size();
     QVERIFY(ready < 300);
     QTest::qWait(100);
     QCOMPARE(readyRows().size(), ready);

@@ -20,7 +20,7 @@ template <class Sample>
 RawFrame lineFrame(const QVector<Sample>& samples, int channels)
 {
     RawFrame frame;
-    frame.width = samples.size() / channels;
+    frame.width = int(samples.size()) / channels;
     frame.height = 1;
     frame.channels = channels;
     frame.bytesPerChannel = sizeof(Sample);

@@ -68,7 +68,7 @@ int canvasColours(const QImage& window, int columnWidth)
             colours << window.pixel(x, y);
         }
     }
-    return colours.size();
+    return int(colours.size());
 }
 
 /// How many pixels right of the panel column have a colour that `wanted` accepts.

@@ -1,4 +1,5 @@
 #include "hostparts.h"
+#include "qtcompat.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -206,7 +207,7 @@ void TestDisplayModes::readout_isRefreshedByEveryMode()
     QSignalSpy row(host.rowChart.curve, SIGNAL(changeAnchorPosition(bool, int)));
     QSignalSpy column(host.columnChart.curve, SIGNAL(changeAnchorPosition(bool, int)));
     const auto counts = [&] {
-        const QVector<int> sizes { image.size(), row.size(), column.size() };
+        const QVector<int> sizes { int(image.size()), int(row.size()), int(column.size()) };
         image.clear();
         row.clear();
         column.clear();
@@ -420,7 +421,8 @@ void TestDisplayModes::regions_reachTheEngine()
         host.widget.analysis(), SIGNAL(updateRoiIntensityHistogram(uint*, int, uint, uint)));
     host.image->rectangles.addItem();
     QCOMPARE(host.widget.analysis()->roiInfo.imageWidth, 512);
-    QCOMPARE(host.widget.analysis()->roiInfo.rect, host.image->rectangles.rects.first().toRect());
+    QCOMPARE(host.widget.analysis()->roiInfo.rect,
+        QtCompat::toRect(host.image->rectangles.rects.first()));
     QCOMPARE(histograms.size(), 1);
     // The rectangle comes through the view's rounding; its first column is its smallest value, and
     // row 128 lies inside.
