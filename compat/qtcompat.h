@@ -53,4 +53,16 @@ inline bool isTypeName(const char* name)
 #endif
 }
 
+/// Makes QImageReader (`Reader`, so that this header needs Qt Core alone) read images of up to
+/// `mebibytes`. Qt 6 refuses some that Qt 5, which knows no limit, reads.
+template <class Reader>
+void setAllocationLimit(int mebibytes)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    Reader::setAllocationLimit(mebibytes);
+#else
+    Q_UNUSED(mebibytes);
+#endif
+}
+
 } // namespace QtCompat

@@ -1,6 +1,7 @@
 #include "thumbnails.h"
 
 #include "imagefile.h"
+#include "qtcompat.h"
 #include "rawframe.h"
 #include "samplethumbnail.h"
 #include "tiffheader.h"
@@ -125,8 +126,19 @@ QImage deepThumbnail(const QImage& image, const QSize& bounds)
     return stretchedThumbnail(samples, thumbnailSize(image.size(), bounds));
 }
 
+/// The limit here is the one that counts, not Qt's own. It is one number for the whole process.
+void raiseReaderLimit()
+{
+    static const bool raised = [] { // by the first of the threads, and once
+        QtCompat::setAllocationLimit<QImageReader>(int(thumbnailDecodeLimit >> 20));
+        return true;
+    }();
+    Q_UNUSED(raised);
+}
+
 QImage commonThumbnail(QFile* file, const QSize& bounds)
 {
+    raiseReaderLimit();
     QImageReader reader(file);
     reader.setDecideFormatFromContent(true);
     // Whatever else is installed beside these does not belong to the program.
