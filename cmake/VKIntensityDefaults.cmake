@@ -13,7 +13,12 @@ function(vkintensity_target_defaults target)
         VISIBILITY_INLINES_HIDDEN ON)
     target_compile_definitions(${target} PRIVATE
         QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII QT_DEPRECATED_WARNINGS)
-    if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+    if(MSVC) # also Clang with the options of this one
+        target_compile_options(${target} PRIVATE /W4 /utf-8 /fp:precise)
+        if(VKINTENSITY_WERROR)
+            target_compile_options(${target} PRIVATE /WX)
+        endif()
+    elseif(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
         target_compile_options(${target} PRIVATE
             -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion
             -Wnon-virtual-dtor -Woverloaded-virtual -Wdouble-promotion -Wformat=2
@@ -26,11 +31,6 @@ function(vkintensity_target_defaults target)
                 -O1 -g1 # finds as much as -O0 and lets the whole suite run in minutes
                 ${vkintensity_sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
             target_link_options(${target} PRIVATE ${vkintensity_sanitizers})
-        endif()
-    elseif(MSVC)
-        target_compile_options(${target} PRIVATE /W4 /utf-8 /fp:precise)
-        if(VKINTENSITY_WERROR)
-            target_compile_options(${target} PRIVATE /WX)
         endif()
     endif()
 endfunction()
