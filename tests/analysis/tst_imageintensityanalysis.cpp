@@ -121,6 +121,7 @@ private Q_SLOTS:
     void changedAnchorPosition_rounds();
     void changedAnchorPosition_outsideSendsTheOldLines();
     void changedDrawRect_sendsTheShownPart();
+    void changedDrawRect_roundsEachEdge();
     void changedDrawRect_survivesAnyRectangle();
     void lines_stopAfterClose();
     void lines_afterAnEmptyRecordNameTheBuffersLengths();
@@ -543,6 +544,7 @@ void TestImageIntensityAnalysis::changedAnchorPosition_rounds_data()
     QTest::newRow("infinite") << QPointF(infinity, -infinity) << QPoint(1073741824, -1073741824);
     QTest::newRow("not a number") << QPointF(notANumber, notANumber) << QPoint(0, 0);
     QTest::newRow("huge") << QPointF(1e300, -1e300) << QPoint(1073741824, -1073741824);
+    QTest::newRow("halves below 0 go up, too") << QPointF(-0.5, -1.5) << QPoint(0, -1);
 }
 
 void TestImageIntensityAnalysis::changedAnchorPosition_rounds()
@@ -572,6 +574,15 @@ void TestImageIntensityAnalysis::changedAnchorPosition_outsideSendsTheOldLines()
     engine.changedAnchorPosition(QPointF(0.0, 2.0)); // only the column is inside
     QCOMPARE(
         log.take().mid(0, 2), (QStringList { "vertical [0 153]", "horizontal [153 204 255]" }));
+}
+
+void TestImageIntensityAnalysis::changedDrawRect_roundsEachEdge()
+{
+    ImageData image;
+    QVERIFY(setGrayImage<uchar>(image, 3, 2, { 10, 12, 14, 16, 18, 20 }));
+    ImageIntensityAnalysis engine(&image);
+    engine.changedDrawRect(QRectF(0.25, 0.25, 2.25, 1.25)); // to 2.5 and 1.5, that is 3 and 2
+    QCOMPARE(engine.drawRect, QRect(0, 0, 3, 2));
 }
 
 void TestImageIntensityAnalysis::changedDrawRect_sendsTheShownPart()
