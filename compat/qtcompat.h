@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QCoreApplication>
+#include <QLibraryInfo>
 #include <QMetaType>
 #include <QPoint>
 #include <QPointF>
@@ -50,6 +52,26 @@ inline bool isTypeName(const char* name)
     return QMetaType::fromName(name).isValid();
 #else
     return QMetaType::type(name) != QMetaType::UnknownType;
+#endif
+}
+
+/// Lets the window system's scale apply, to windows and pixmaps: Qt 6 always does. Before the
+/// application object is made.
+inline void enableHighDpiScaling()
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
+}
+
+/// Folder of the translations that come with Qt itself.
+inline QString translationsPath()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#else
+    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
 #endif
 }
 

@@ -1,7 +1,8 @@
 #include "languages.h"
 
+#include "qtcompat.h"
+
 #include <QCoreApplication>
-#include <QLibraryInfo>
 #include <QTranslator>
 
 namespace {
@@ -23,8 +24,7 @@ bool installAll(QCoreApplication* application, const QLocale& language)
     if (!install(application, language, "vkviewer", folder)) {
         return false; // the library's texts alone would make a mixture
     }
-    install(
-        application, language, "qtbase", QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    install(application, language, "qtbase", QtCompat::translationsPath());
     return install(application, language, "vkintensitywidget", folder);
 }
 

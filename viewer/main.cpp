@@ -1,6 +1,7 @@
 #include "appearance.h"
 #include "commandline.h"
 #include "languages.h"
+#include "qtcompat.h"
 #include "screenshot.h"
 #include "viewerwindow.h"
 
@@ -62,10 +63,7 @@ QSize startSize()
 /// which keep image pixels sharp and equal; the widget itself follows what remains.
 void prepareForDenseScreens()
 {
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-#endif
+    QtCompat::enableHighDpiScaling();
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::Floor);
 }
 
