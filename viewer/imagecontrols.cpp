@@ -109,8 +109,11 @@ void ImageControls::nameControls()
 
 void ImageControls::orderControls()
 {
+    constexpr int zoomButtons = 2; // stand on the canvas, which is passed before them
+    QVector<QWidget*> controls = controlsInOrder(m_widget);
+    controls.insert(controls.size() - zoomButtons, canvas());
     QWidget* previous = nullptr;
-    for (QWidget* next : controlsInOrder(m_widget)) {
+    for (QWidget* next : controls) {
         if (previous && next) {
             QWidget::setTabOrder(previous, next);
         }

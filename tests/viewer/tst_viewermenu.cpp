@@ -1,0 +1,509 @@
+#include "viewermenu.h"
+
+#include "gallerypage.h"
+#include "helpoverlay.h"
+#include "imagecontrols.h"
+#include "pages.h"
+#include "viewerfixture.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QGraphicsView>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTimer>
+
+namespace {
+
+constexpr int dialogMilliseconds = 50;
+
+/// Closes every dialog and menu that comes up, and counts them.
+class Closer : public QTimer
+{
+public:
+    Closer()
+    {
+        connect(this, &QTimer::timeout, this, [this] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            if (dialog) {
+                titles << dialog->windowTitle();
+                dialog->close();
+            }
+        });
+        start(dialogMilliseconds);
+    }
+
+    QStringList titles;
+};
+
+} // namespace
+
+/// Every entry and every key of the menus, with real events.
+class TestViewerMenu : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void structure();
+    void keysAreDifferent();
+    void availability_followsThePage();
+    void everyEntry_byMouse_data();
+    void everyEntry_byMouse();
+
+    void open();
+    void openFolder();
+    void gallery();
+    void nextAndPrevious();
+    void nextAndPrevious_fromAProblem();
+    void pageKeys_belongToTheGallery();
+    void reload();
+    void saveScreenshot();
+    void saveScreenshot_thatCannotBeWritten();
+    void close();
+    void quit();
+    void copyWindow();
+    void copyCanvas();
+    void copyKey_belongsToATextField();
+    void zoom();
+    void zoom_restsBesideAChart();
+    void views();
+    void views_markWhatThePanelShows();
+    void palettes_data();
+    void palettes();
+    void fullScreen();
+    void help();
+    void help_listsEveryKey();
+    void about();
+
+private:
+    void press(const char* keys);
+    QStringList entries(int menu) const;
+    void chooseName(const QString& path);
+
+    std::unique_ptr<ViewerFixture> m_viewer;
+};
+
+void TestViewerMenu::initTestCase()
+{
+    ViewerFixture::setUpProgram();
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+}
+
+void TestViewerMenu::init()
+{
+    m_viewer = std::make_unique<ViewerFixture>();
+    QVERIFY(m_viewer->window->openFile(m_viewer->path("frame 2.raw")));
+}
+
+void TestViewerMenu::cleanup()
+{
+    m_viewer.reset();
+}
+
+/// Presses one key with its modifiers, as "Ctrl+Shift+O" says.
+void TestViewerMenu::press(const char* keys)
+{
+    const int code = QKeySequence(keys)[0];
+    QTest::keyClick(m_viewer->window.get(), Qt::Key(code & ~int(Qt::KeyboardModifierMask)),
+        Qt::KeyboardModifiers(code & int(Qt::KeyboardModifierMask)));
+}
+
+/// Types a file name into the dialog that comes up next, and accepts it.
+void TestViewerMenu::chooseName(const QString& path)
+{
+    QTimer::singleShot(dialogMilliseconds, this, [path] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        auto* name = dialog->findChild<QLineEdit*>();
+        name->clear();
+        QTest::keyClicks(name, path);
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+}
+
+QStringList TestViewerMenu::entries(int menu) const
+{
+    QStringList texts;
+    for (const QAction* action : m_viewer->window->menuBar()->actions()[menu]->menu()->actions()) {
+        texts << action->text();
+    }
+    return texts;
+}
+
+void TestViewerMenu::structure()
+{
+    QCOMPARE(m_viewer->window->menuBar()->actions().size(), 4);
+    QCOMPARE(entries(0),
+        (QStringList { "&Open...", "Open &Folder...", "Open &Recent", "&Gallery", "", "&Next Image",
+            "&Previous Image", "Re&load", "", "&Save Screenshot...", "", "&Close", "&Quit" }));
+    QCOMPARE(entries(1), (QStringList { "&Copy Window", "Copy C&anvas" }));
+    QCOMPARE(entries(2),
+        (QStringList { "Zoom &In", "Zoom &Out", "", "I&mage", "2D Chart of the &Row",
+            "2D Chart of the &Column", "", "&Palette", "", "&Full Screen" }));
+    QCOMPARE(entries(3), (QStringList { "&Mouse and Keys", "&About" }));
+}
+
+void TestViewerMenu::keysAreDifferent()
+{
+    QStringList keys;
+    for (const QAction* action : m_viewer->window->findChildren<QAction*>()) {
+        for (const QKeySequence& key : action->shortcuts()) {
+            keys << key.toString();
+        }
+    }
+    QVERIFY(keys.size() > 20);
+    QCOMPARE(keys.removeDuplicates(), 0);
+}
+
+void TestViewerMenu::availability_followsThePage()
+{
+    const auto enabled = [this](const char* name) { return m_viewer->action(name)->isEnabled(); };
+    for (const char* name : { "actionNext", "actionPrevious", "actionReload", "actionCopyCanvas",
+             "actionZoomIn", "actionRowChart", "actionPaletteRed", "actionOpen", "actionHelp" }) {
+        QVERIFY2(enabled(name), name);
+    }
+    QVERIFY(!m_viewer->window->openFile(m_viewer->path("gone.raw"))); // a problem is a file, too
+    for (const char* name : { "actionNext", "actionReload", "actionOpen", "actionCopyWindow" }) {
+        QVERIFY2(enabled(name), name);
+    }
+    for (const char* name : { "actionCopyCanvas", "actionZoomIn", "actionZoomOut",
+             "actionImageView", "actionRowChart", "actionColumnChart", "actionPaletteGray" }) {
+        QVERIFY2(!enabled(name), name);
+    }
+    m_viewer->window->showGallery(m_viewer->folder.path());
+    for (const char* name :
+        { "actionNext", "actionPrevious", "actionReload", "actionCopyCanvas" }) {
+        QVERIFY2(!enabled(name), name);
+    }
+    QVERIFY(enabled("actionCopyWindow"));
+}
+
+void TestViewerMenu::everyEntry_byMouse_data()
+{
+    QTest::addColumn<int>("menu");
+    QTest::addColumn<QString>("name");
+    const QVector<QStringList> menus { { "actionOpen", "actionOpenFolder", "actionGallery",
+                                           "actionNext", "actionPrevious", "actionReload",
+                                           "actionSaveScreenshot", "actionClose", "actionQuit" },
+        { "actionCopyWindow", "actionCopyCanvas" },
+        { "actionZoomIn", "actionZoomOut", "actionImageView", "actionRowChart", "actionColumnChart",
+            "actionFullScreen" },
+        { "actionHelp", "actionAbout" } };
+    for (int menu = 0; menu < menus.size(); ++menu) {
+        for (const QString& name : menus[menu]) {
+            QTest::newRow(qPrintable(name)) << menu << name;
+        }
+    }
+}
+
+void TestViewerMenu::everyEntry_byMouse()
+{
+    QFETCH(int, menu);
+    QFETCH(QString, name);
+    const Closer closer;
+    QMenuBar* bar = m_viewer->window->menuBar();
+    QAction* title = bar->actions()[menu];
+    QSignalSpy opened(title->menu(), &QMenu::aboutToShow);
+    QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->actionGeometry(title).center());
+    QCOMPARE(opened.size(), 1);
+    QAction* entry = m_viewer->action(qPrintable(name));
+    QSignalSpy chosen(entry, &QAction::triggered);
+    QTest::mouseClick(title->menu(), Qt::LeftButton, Qt::NoModifier,
+        title->menu()->actionGeometry(entry).center());
+    QCOMPARE(chosen.size(), 1);
+}
+
+void TestViewerMenu::open()
+{
+    chooseName(m_viewer->path("frame 1.raw"));
+    press("Ctrl+O");
+    QCOMPARE(m_viewer->shownFile(), QString("frame 1.raw"));
+}
+
+void TestViewerMenu::openFolder()
+{
+    const Closer closer;
+    press("Ctrl+Shift+O");
+    QCOMPARE(closer.titles, QStringList("Open Folder"));
+}
+
+void TestViewerMenu::gallery()
+{
+    press("Ctrl+G");
+    QVERIFY(qobject_cast<GalleryPage*>(m_viewer->page()));
+}
+
+void TestViewerMenu::nextAndPrevious()
+{
+    press("PgDown");
+    QCOMPARE(m_viewer->shownFile(), QString("frame 10.raw")); // ten comes after two
+    press("PgDown");
+    QCOMPARE(m_viewer->shownFile(), QString("frame 10.raw"));
+    QCOMPARE(m_viewer->window->statusBar()->currentMessage(),
+        QString("This is the last image of the folder."));
+    press("PgUp");
+    press("PgUp");
+    QCOMPARE(m_viewer->shownFile(), QString("frame 1.raw"));
+    press("PgUp");
+    QCOMPARE(m_viewer->shownFile(), QString("frame 1.raw"));
+    QCOMPARE(m_viewer->window->statusBar()->currentMessage(),
+        QString("This is the first image of the folder."));
+    QVERIFY(m_viewer->window->problem().isEmpty());
+}
+
+void TestViewerMenu::nextAndPrevious_fromAProblem()
+{
+    QVERIFY(!m_viewer->window->openFile(m_viewer->path("frame 3.raw"))); // is not there
+    press("PgDown");
+    QCOMPARE(m_viewer->shownFile(), QString("frame 10.raw"));
+    QCOMPARE(m_viewer->page(), m_viewer->intensity());
+}
+
+void TestViewerMenu::pageKeys_belongToTheGallery()
+{
+    m_viewer->window->showGallery(m_viewer->folder.path());
+    auto* gallery = qobject_cast<GalleryPage*>(m_viewer->page());
+    QTest::keyClick(m_viewer->window->focusWidget(), Qt::Key_PageDown);
+    QCOMPARE(m_viewer->page(), gallery);
+}
+
+void TestViewerMenu::reload()
+{
+    m_viewer->writeFrame("frame 2.raw", 80);
+    press("F5");
+    QCOMPARE(m_viewer->status("statusImageSize"), QString::fromUtf8("80 × 48 pixels   16 bit"));
+}
+
+void TestViewerMenu::saveScreenshot()
+{
+    chooseName(m_viewer->path("picture")); // the suffix comes by itself
+    press("Ctrl+S");
+    const QImage picture(m_viewer->path("picture.png"));
+    QCOMPARE(picture.size(), m_viewer->window->size());
+    QCOMPARE(m_viewer->window->statusBar()->currentMessage(), QString("The screenshot is saved."));
+}
+
+void TestViewerMenu::saveScreenshot_thatCannotBeWritten()
+{
+    const Closer closer; // also of the message
+    QTimer::singleShot(dialogMilliseconds / 2, this, [this] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        dialog->setDirectory("/proc"); // exists, and takes no files
+        dialog->selectFile("picture.png");
+        static_cast<QDialog*>(dialog)->accept();
+    });
+    press("Ctrl+S");
+    QCOMPARE(closer.titles, QStringList("Save Screenshot"));
+    QVERIFY(m_viewer->window->statusBar()->currentMessage().isEmpty());
+}
+
+void TestViewerMenu::close()
+{
+    press("Ctrl+W");
+    QVERIFY(qobject_cast<GalleryPage*>(m_viewer->page()));
+    press("Ctrl+W");
+    QVERIFY(qobject_cast<WelcomePage*>(m_viewer->page()));
+}
+
+void TestViewerMenu::quit()
+{
+    press("Ctrl+Q");
+    QVERIFY(!m_viewer->window->isVisible());
+}
+
+void TestViewerMenu::copyWindow()
+{
+    QApplication::clipboard()->clear();
+    press("Ctrl+C");
+    QCOMPARE(QApplication::clipboard()->image().size(), m_viewer->window->size());
+}
+
+void TestViewerMenu::copyCanvas()
+{
+    QApplication::clipboard()->clear();
+    auto* canvas = m_viewer->intensity()->findChild<QGraphicsView*>();
+    press("Ctrl+Shift+C");
+    QCOMPARE(QApplication::clipboard()->image().size(), canvas->size());
+    QVERIFY(canvas->width() < m_viewer->window->width() - 250); // without the panel
+}
+
+void TestViewerMenu::copyKey_belongsToATextField()
+{
+    press("Ctrl+2");
+    auto* field = m_viewer->control<QLineEdit>("lineEditPeaks");
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClick(field, Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QApplication::clipboard()->text(), QString("10"));
+}
+
+void TestViewerMenu::zoom()
+{
+    QSignalSpy in(m_viewer->control<QPushButton>("tool_Zoom_In"), &QPushButton::clicked);
+    QSignalSpy out(m_viewer->control<QPushButton>("tool_Zoom_Out"), &QPushButton::clicked);
+    auto* canvas = m_viewer->intensity()->findChild<QGraphicsView*>();
+    const QImage fitted = canvas->grab().toImage();
+    press("Ctrl++");
+    QCOMPARE(in.size(), 1);
+    press("Ctrl+="); // the same key without shift
+    QCOMPARE(in.size(), 2);
+    QVERIFY(canvas->grab().toImage() != fitted);
+    press("Ctrl+-");
+    press("Ctrl+-");
+    QCOMPARE(out.size(), 2);
+    QCOMPARE(in.size(), 2);
+}
+
+void TestViewerMenu::zoom_restsBesideAChart()
+{
+    QSignalSpy in(m_viewer->control<QPushButton>("tool_Zoom_In"), &QPushButton::clicked);
+    press("Ctrl+2");
+    QVERIFY(!m_viewer->action("actionZoomIn")->isEnabled());
+    press("Ctrl++");
+    QCOMPARE(in.size(), 0);
+    press("Ctrl+1");
+    QVERIFY(m_viewer->action("actionZoomIn")->isEnabled());
+    press("Ctrl++");
+    QCOMPARE(in.size(), 1);
+}
+
+void TestViewerMenu::views()
+{
+    auto* image = m_viewer->control<QRadioButton>("radioButtonImage");
+    auto* chart = m_viewer->control<QRadioButton>("radioButton2D");
+    auto* axis = m_viewer->control<QComboBox>("comboBoxDisplay");
+    auto* canvas = m_viewer->intensity()->findChild<QGraphicsView*>();
+    const QImage imageView = canvas->grab().toImage();
+    press("Ctrl+2");
+    QVERIFY(chart->isChecked() && !image->isChecked());
+    QCOMPARE(axis->currentIndex(), 0);
+    const QImage rowChart = canvas->grab().toImage();
+    press("Ctrl+3");
+    QVERIFY(chart->isChecked());
+    QCOMPARE(axis->currentIndex(), 1);
+    const QImage columnChart = canvas->grab().toImage();
+    QVERIFY(rowChart != imageView && columnChart != imageView && columnChart != rowChart);
+    press("Ctrl+1");
+    QVERIFY(image->isChecked() && !chart->isChecked());
+    QCOMPARE(canvas->grab().toImage(), imageView);
+    press("Ctrl+3"); // straight to the column
+    QCOMPARE(canvas->grab().toImage(), columnChart);
+}
+
+void TestViewerMenu::views_markWhatThePanelShows()
+{
+    const auto marked = [this](const char* name) { return m_viewer->action(name)->isChecked(); };
+    QVERIFY(marked("actionImageView"));
+    auto* chart = m_viewer->control<QRadioButton>("radioButton2D");
+    QTest::mouseClick(chart, Qt::LeftButton, Qt::NoModifier, QPoint(8, chart->height() / 2));
+    QVERIFY(marked("actionRowChart"));
+    QTest::keyClick(m_viewer->control<QComboBox>("comboBoxDisplay"), Qt::Key_Down);
+    QVERIFY(marked("actionColumnChart") && !marked("actionRowChart"));
+    press("F5"); // a load goes back to the image
+    QVERIFY(marked("actionImageView"));
+}
+
+void TestViewerMenu::palettes_data()
+{
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QString>("button");
+    const QStringList names = ImageControls::paletteNames();
+    for (int i = 0; i < names.size(); ++i) {
+        QTest::newRow(qPrintable(names[i])) << QString("Alt+%1").arg(i + 1) << names[i];
+    }
+}
+
+void TestViewerMenu::palettes()
+{
+    QFETCH(QString, keys);
+    QFETCH(QString, button);
+    auto* named = m_viewer->control<QPushButton>(qPrintable("pushButton" + button));
+    QSignalSpy clicked(named, &QPushButton::clicked);
+    press(qPrintable(keys));
+    QCOMPARE(clicked.size(), 1);
+    m_viewer->action(qPrintable("actionPalette" + button))->trigger();
+    QCOMPARE(clicked.size(), 2);
+}
+
+void TestViewerMenu::fullScreen()
+{
+    QMainWindow* window = m_viewer->window.get();
+    press("F11");
+    QVERIFY(window->isFullScreen());
+    QVERIFY(!window->menuBar()->isVisible() && !window->statusBar()->isVisible());
+    press("PgDown"); // keys work without their menu
+    QCOMPARE(m_viewer->shownFile(), QString("frame 10.raw"));
+    press("Esc");
+    QVERIFY(!window->isFullScreen());
+    QVERIFY(window->menuBar()->isVisible() && window->statusBar()->isVisible());
+    press("Esc"); // does nothing any more
+    QVERIFY(!window->isFullScreen() && window->isVisible());
+    press("F11");
+    press("F11");
+    QVERIFY(!window->isFullScreen());
+    QVERIFY(!m_viewer->action("actionFullScreen")->isChecked());
+}
+
+void TestViewerMenu::help()
+{
+    auto* overlay = m_viewer->window->findChild<HelpOverlay*>();
+    QVERIFY(!overlay->isVisible());
+    press("F1");
+    QVERIFY(overlay->isVisible() && overlay->hasFocus());
+    QCOMPARE(overlay->size(), m_viewer->window->size());
+    m_viewer->window->resize(900, 650);
+    QCOMPARE(overlay->size(), m_viewer->window->size());
+    QTest::keyClick(overlay, Qt::Key_Shift);
+    QVERIFY(overlay->isVisible()); // half a key
+    QTest::keyClick(overlay, Qt::Key_PageDown);
+    QVERIFY(!overlay->isVisible());
+    QCOMPARE(m_viewer->shownFile(), QString("frame 2.raw")); // the key only closed the help
+    press("F1");
+    QTest::mouseClick(overlay, Qt::LeftButton);
+    QVERIFY(!overlay->isVisible());
+    press("F1");
+    QTest::keyClick(overlay, Qt::Key_F1);
+    QVERIFY(!overlay->isVisible());
+}
+
+void TestViewerMenu::help_listsEveryKey()
+{
+    QStringList listed;
+    for (const QLabel* label : m_viewer->window->findChildren<QLabel*>("helpKeys")) {
+        listed << label->text();
+    }
+    for (const QAction* action : m_viewer->window->findChildren<QAction*>()) {
+        const QString key = action->shortcut().toString(QKeySequence::NativeText);
+        QVERIFY2(key.isEmpty() || key == "Esc" || listed.contains(key), qPrintable(key));
+    }
+    QStringList effects;
+    for (const QLabel* label : m_viewer->window->findChildren<QLabel*>("helpEffect")) {
+        effects << label->text();
+        QVERIFY2(!label->text().contains('&') && !label->text().contains("..."),
+            qPrintable(label->text()));
+    }
+    QVERIFY(effects.contains("Open Folder") && effects.contains("Green palette"));
+}
+
+void TestViewerMenu::about()
+{
+    const Closer closer;
+    m_viewer->action("actionAbout")->trigger();
+    QCOMPARE(closer.titles, QStringList("About VKIntensity Viewer"));
+}
+
+QTEST_MAIN(TestViewerMenu)
+#include "tst_viewermenu.moc"
