@@ -542,7 +542,7 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
     </message>
     <message>
         <source>Gr&amp;een</source>
-        <translation>G&amp;rün</translation>
+        <translation>Grü&amp;n</translation>
     </message>
     <message>
         <source>&amp;Blue</source>

@@ -27,7 +27,7 @@ QPalette darkPalette()
     palette.setColor(QPalette::AlternateBase, QColor(24, 29, 35));
     palette.setColor(QPalette::Button, QColor(44, 52, 62));
     palette.setColor(QPalette::ToolTipBase, QColor(44, 52, 62));
-    palette.setColor(QPalette::Highlight, QColor(40, 128, 140));
+    palette.setColor(QPalette::Highlight, QColor(38, 119, 131));
     palette.setColor(QPalette::Link, QColor(72, 172, 186));
     for (const QPalette::ColorRole role : { QPalette::WindowText, QPalette::Text,
              QPalette::ButtonText, QPalette::ToolTipText, QPalette::HighlightedText }) {

@@ -1,0 +1,27 @@
+# Lets lupdate take over new texts into copies of the translation files; there must be none.
+file(REMOVE_RECURSE "${WORK_DIR}")
+foreach(language IN LISTS LANGUAGES)
+    foreach(part vkintensitywidget vkviewer)
+        if(part STREQUAL vkviewer)
+            set(folder viewer)
+        else()
+            set(folder src)
+        endif()
+        set(name ${part}_${language}.ts)
+        file(COPY "${SOURCE_DIR}/translations/${name}" DESTINATION "${WORK_DIR}")
+        execute_process(COMMAND "${LUPDATE}" -silent -no-obsolete -locations none
+            "${SOURCE_DIR}/${folder}" -ts "${WORK_DIR}/${name}"
+            RESULT_VARIABLE result OUTPUT_QUIET ERROR_VARIABLE messages)
+        if(NOT result EQUAL 0)
+            message(FATAL_ERROR "lupdate failed: ${messages}")
+        endif()
+        file(STRINGS "${SOURCE_DIR}/translations/${name}" before REGEX "<source>")
+        file(STRINGS "${WORK_DIR}/${name}" after REGEX "<source>")
+        list(SORT before)
+        list(SORT after)
+        if(NOT before STREQUAL after)
+            message(SEND_ERROR "${name} does not hold the texts of ${folder}/: "
+                "build the target update_translations, and translate what is unfinished")
+        endif()
+    endforeach()
+endforeach()
