@@ -82,7 +82,10 @@ int runWindow(ViewerWindow* window, const QString& image)
 
 int main(int argc, char* argv[])
 {
+    initViewerResources();
     if (hasArgument(argc, argv, "--help")) {
+        QCoreApplication application(argc, argv); // needs no display, but knows the language
+        installLanguage(&application, QLocale());
         std::fputs(qUtf8Printable(commandLineHelp()), stdout);
         return 0;
     }
@@ -104,12 +107,11 @@ int main(int argc, char* argv[])
     QApplication::setApplicationName("vkviewer");
     QApplication::setApplicationVersion(VKVIEWER_VERSION);
     QApplication::setDesktopFileName("org.vkintensity.VKViewer");
+    installLanguage(&application, QLocale());
     const CommandLine line = parsedCommandLine(QApplication::arguments().mid(1));
     if (!line.error.isEmpty()) {
         return fail(line.error);
     }
-    initViewerResources();
-    installLanguage(&application, QLocale());
     applyAppearance();
     ViewerWindow window;
     if (line.screenshot.isEmpty()) {

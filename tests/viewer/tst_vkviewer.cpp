@@ -21,6 +21,10 @@ private Q_SLOTS:
     void screenshot_ofEverySample();
     void screenshot_atOtherResolutions_data();
     void screenshot_atOtherResolutions();
+    void screenshot_onDenseScreens_data();
+    void screenshot_onDenseScreens();
+    void names_inAnyScript();
+    void language_followsTheEnvironment();
     void screenshot_ofAGallery_data();
     void screenshot_ofAGallery();
     void screenshot_ofAGalleryOfHostileFiles();
@@ -295,6 +299,60 @@ void TestVkviewer::screenshot_ofControlsInASmallWindow()
     QVERIFY(m_output.startsWith("ROI 1: x "));
     QCOMPARE(m_output.count('\n'), 1);
     QCOMPARE(QImage(picture).size(), QSize(640, 480));
+}
+
+void TestVkviewer::screenshot_onDenseScreens_data()
+{
+    QTest::addColumn<QString>("dotsPerInch");
+    QTest::addColumn<int>("columnWidth"); // of the panel, in pixels
+    QTest::newRow("96") << "96" << 290;
+    QTest::newRow("144") << "144" << 435; // not scaled as a whole: the widget grows by itself
+    QTest::newRow("192") << "192" << 580; // twice as large as a whole
+}
+
+/// With the scaling of the window system, as users have it.
+void TestVkviewer::screenshot_onDenseScreens()
+{
+    QFETCH(QString, dotsPerInch);
+    QFETCH(int, columnWidth);
+    const QString picture = path("dense.png");
+    QCOMPARE(run({ "--screenshot", picture, "--size", "1501x1101", sample("lamp-spectrum.raw") },
+                 { { "QT_FONT_DPI", dotsPerInch }, { "QT_ENABLE_HIGHDPI_SCALING", "1" } }),
+        0);
+    const QImage window(picture);
+    QCOMPARE(window.size(), QSize(1501, 1101));
+    // The border of the column is darker than the column, and the canvas lies right of it.
+    const int middle = 1101 / 2;
+    const auto isCanvas = [&window](int x, int y) { return qGray(window.pixel(x, y)) < 25; };
+    QVERIFY(!isCanvas(columnWidth / 2, 60));
+    for (int x = columnWidth + 2; x < columnWidth + 12; ++x) {
+        QVERIFY(isCanvas(x, middle / 3));
+    }
+}
+
+void TestVkviewer::names_inAnyScript()
+{
+    for (const char* name : { "Größe.raw", "光谱.raw", "תמונה.raw", "with  spaces.raw" }) {
+        const QString image = path(QString::fromUtf8(name));
+        const QString picture = image + ".png";
+        QVERIFY(QFile::copy(sample("lamp-spectrum.raw"), image));
+        QCOMPARE(run({ "--screenshot", picture, image }), 0);
+        QVERIFY2(!QImage(picture).isNull(), name);
+        QCOMPARE(run({ "--screenshot", path("again.png"), picture }), 0); // a PNG image, too
+        QVERIFY2(m_errors.isEmpty(), m_errors.constData());
+    }
+}
+
+void TestVkviewer::language_followsTheEnvironment()
+{
+    QCOMPARE(run({ "--help" }, { { "LC_ALL", "de_DE.UTF-8" } }), 0);
+    QVERIFY(m_output.startsWith("Aufruf: vkviewer"));
+    QCOMPARE(run({ "--nonsense" }, { { "LC_ALL", "de_DE.UTF-8" } }), 1);
+    QVERIFY(m_errors.contains("unbekannte Option --nonsense"));
+    QCOMPARE(run({ "--help" }, { { "LC_ALL", "zh_CN.UTF-8" } }), 0);
+    QVERIFY(m_output.contains(QByteArray("用法")));
+    QCOMPARE(run({ "--help" }, { { "LC_ALL", "en_GB.UTF-8" } }), 0);
+    QVERIFY(m_output.startsWith("Usage: vkviewer"));
 }
 
 void TestVkviewer::screenshot_withoutADisplay()
