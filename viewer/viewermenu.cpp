@@ -44,7 +44,7 @@ QAction* ViewerMenu::add(QMenu* menu, const char* name, const QString& text,
     QAction* action = menu->addAction(text);
     action->setObjectName(name);
     action->setShortcuts(keys);
-    connect(action, &QAction::triggered, m_window, [this, slot] { (m_window->*slot)(); });
+    connect(action, &QAction::triggered, m_window, slot);
     m_actions << action;
     if (needs == Needs::Image) {
         m_imageActions << action;
