@@ -102,6 +102,10 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
   --version               die Version zeigen
 </translation>
     </message>
+    <message>
+        <source>there is no display to open a window on (--screenshot needs none)</source>
+        <translation>es gibt keine Anzeige für ein Fenster (--screenshot braucht keine)</translation>
+    </message>
 </context>
 <context>
     <name>ControlDriver</name>

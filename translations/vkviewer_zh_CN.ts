@@ -101,6 +101,10 @@ its images are shown in a gallery.
   --version               显示版本
 </translation>
     </message>
+    <message>
+        <source>there is no display to open a window on (--screenshot needs none)</source>
+        <translation>没有可供打开窗口的显示器（--screenshot 不需要）</translation>
+    </message>
 </context>
 <context>
     <name>ControlDriver</name>

@@ -96,7 +96,10 @@ int main(int argc, char* argv[])
     const bool screenshot = hasArgument(argc, argv, "--screenshot");
     if (displayIsMissing() && !hasArgument(argc, argv, "-platform")) {
         if (!screenshot) {
-            return fail("there is no display to open a window on (--screenshot needs none)");
+            QCoreApplication application(argc, argv);
+            installLanguage(&application, QLocale());
+            return fail(CommandLine::tr(
+                "there is no display to open a window on (--screenshot needs none)"));
         }
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }

@@ -72,11 +72,9 @@ QSize coveringSize(const QSize& pixels, qreal ratio)
     return QSize(qCeil(pixels.width() / ratio), qCeil(pixels.height() / ratio));
 }
 
-/// The window as exactly so many pixels, and without the time the image took to load: the same
-/// image gives the same picture.
+/// The window as exactly so many pixels.
 QPixmap pictureOf(ViewerWindow* window, const QSize& pixels)
 {
-    window->findChild<QLabel*>("statusLoadTime")->clear();
     const QPixmap picture = window->grab();
     return pixels.isValid() ? picture.copy(QRect(QPoint(), pixels)) : picture;
 }
@@ -143,6 +141,7 @@ QString takeScreenshot(ViewerWindow* window, const CommandLine& line, QStringLis
     if (line.size.isValid()) {
         window->resize(coveringSize(line.size, window->devicePixelRatioF()));
     }
+    window->findChild<QLabel*>("statusLoadTime")->hide(); // the same image, the same picture
     window->show();
     settle(*window);
     if (!openQuietly(window, line.image)) {

@@ -149,7 +149,9 @@ bool ViewerWindow::restoreSession(std::unique_ptr<QSettings> settings)
     m_recent = RecentFiles(m_settings->value(recentKey).toStringList());
     m_folder = m_settings->value(folderKey).toString();
     updateMenu();
-    return restoreGeometry(m_settings->value(geometryKey).toByteArray());
+    const bool restored = restoreGeometry(m_settings->value(geometryKey).toByteArray());
+    setWindowState(windowState() & ~Qt::WindowFullScreen); // nobody expects to start without a menu
+    return restored;
 }
 
 void ViewerWindow::storeSession()
@@ -481,14 +483,20 @@ void ViewerWindow::choosePalette(const QString& name)
     m_controls.choosePalette(name);
 }
 
-/// Nothing but the page is shown on a full screen; the keys go on working.
 void ViewerWindow::toggleFullScreen()
 {
-    const bool becomesFull = !isFullScreen();
-    menuBar()->setVisible(!becomesFull);
-    statusBar()->setVisible(!becomesFull);
     setWindowState(windowState() ^ Qt::WindowFullScreen); // keeps whether it was maximised
-    m_menu->markFullScreen(becomesFull);
+}
+
+/// Nothing but the page is shown on a full screen, whoever asked for it; the keys go on working.
+void ViewerWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::WindowStateChange) {
+        menuBar()->setVisible(!isFullScreen());
+        statusBar()->setVisible(!isFullScreen());
+        m_menu->markFullScreen(isFullScreen());
+    }
+    QMainWindow::changeEvent(event);
 }
 
 void ViewerWindow::showHelp()

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void recent_forgetsAFileThatCannotBeShown();
     void recent_isCleared();
     void session_isKept();
+    void session_endedOnTheFullScreen();
     void session_ofTheFirstStart();
     void session_isNotTouchedWithoutSettings();
     void watch_reloadsAChangedFile();
@@ -132,6 +133,18 @@ void TestViewerSession::session_isKept()
     QCOMPARE(recentTexts(), QStringList("&1  frame 1.raw"));
     m_viewer->action("actionGallery")->trigger(); // knows the folder and asks nothing
     QCOMPARE(m_viewer->window->findChild<GalleryPage*>()->folder(), m_viewer->folder.path());
+}
+
+void TestViewerSession::session_endedOnTheFullScreen()
+{
+    QVERIFY(!m_viewer->window->restoreSession(settings()));
+    m_viewer->window->toggleFullScreen();
+    QVERIFY(m_viewer->window->isFullScreen());
+    m_viewer->window->close();
+    m_viewer->makeWindow();
+    QVERIFY(m_viewer->window->restoreSession(settings()));
+    QVERIFY(!m_viewer->window->isFullScreen());
+    QVERIFY(m_viewer->window->statusBar()->isVisible());
 }
 
 void TestViewerSession::session_ofTheFirstStart()
