@@ -165,11 +165,15 @@ bool HelpOverlay::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
-/// Keys close the help before they can be the shortcut of anything.
+/// Keys close the help before they can be the shortcut of anything, or (Tab) lead the focus away.
 bool HelpOverlay::event(QEvent* event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
         event->accept();
+        return true;
+    }
+    if (event->type() == QEvent::KeyPress) {
+        keyPressEvent(static_cast<QKeyEvent*>(event));
         return true;
     }
     return QWidget::event(event);

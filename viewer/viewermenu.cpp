@@ -1,6 +1,7 @@
 #include "viewermenu.h"
 
 #include "imagecontrols.h"
+#include "recentfiles.h"
 #include "viewerwindow.h"
 
 #include <QAction>
@@ -60,8 +61,7 @@ void ViewerMenu::buildFileMenu()
     add(menu, "actionOpen", tr("&Open..."), { QKeySequence("Ctrl+O") }, &ViewerWindow::chooseFile);
     add(menu, "actionOpenFolder", tr("Open &Folder..."), { QKeySequence("Ctrl+Shift+O") },
         &ViewerWindow::chooseFolder);
-    m_recent = menu->addMenu(tr("Open &Recent"));
-    m_recent->setObjectName("menuRecent");
+    buildRecentMenu(menu->addMenu(tr("Open &Recent")));
     add(menu, "actionGallery", tr("&Gallery"), { QKeySequence("Ctrl+G") },
         &ViewerWindow::showMenuGallery);
     menu->addSeparator();
@@ -77,6 +77,21 @@ void ViewerMenu::buildFileMenu()
     menu->addSeparator();
     add(menu, "actionClose", tr("&Close"), { QKeySequence("Ctrl+W") }, &ViewerWindow::closeFile);
     add(menu, "actionQuit", tr("&Quit"), { QKeySequence("Ctrl+Q") }, &ViewerWindow::quit);
+}
+
+/// The entries stay and change their texts: one of them may just be the caller of what changes
+/// them.
+void ViewerMenu::buildRecentMenu(QMenu* menu)
+{
+    m_recent = menu;
+    m_recent->setObjectName("menuRecent");
+    for (int i = 0; i < RecentFiles::most; ++i) {
+        QAction* action = m_recent->addAction(QString());
+        connect(action, &QAction::triggered, m_window, [this, i] { m_window->openRecentFile(i); });
+        m_recentActions << action;
+    }
+    m_recent->addSeparator();
+    m_recent->addAction(tr("&Clear"), m_window, &ViewerWindow::clearRecentFiles);
     setRecentFiles({});
 }
 
@@ -176,12 +191,10 @@ void ViewerMenu::markView(ImageView view)
 
 void ViewerMenu::setRecentFiles(const QStringList& texts)
 {
-    m_recent->clear();
-    for (int i = 0; i < texts.size(); ++i) {
-        m_recent->addAction(texts[i], m_window, [this, i] { m_window->openRecentFile(i); });
+    for (int i = 0; i < m_recentActions.size(); ++i) {
+        m_recentActions[i]->setText(texts.value(i));
+        m_recentActions[i]->setVisible(i < texts.size());
     }
-    m_recent->addSeparator();
-    m_recent->addAction(tr("&Clear"), m_window, &ViewerWindow::clearRecentFiles);
     m_recent->setEnabled(!texts.isEmpty());
 }
 

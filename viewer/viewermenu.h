@@ -30,7 +30,8 @@ public:
 
     void markView(ImageView view);
 
-    /// One entry a text; choosing one calls ViewerWindow::openRecentFile() with its index.
+    /// One entry a text, RecentFiles::most of them at most; choosing one calls
+    /// ViewerWindow::openRecentFile() with its index.
     void setRecentFiles(const QStringList& texts);
 
     void markFullScreen(bool isFull);
@@ -44,6 +45,7 @@ private:
     QAction* add(QMenu* menu, const char* name, const QString& text,
         const QList<QKeySequence>& keys, Slot slot, Needs needs = Needs::Nothing);
     void buildFileMenu();
+    void buildRecentMenu(QMenu* menu);
     void buildEditMenu();
     void buildViewMenu();
     void addViews(QMenu* menu);
@@ -52,6 +54,7 @@ private:
 
     ViewerWindow* m_window;
     QMenu* m_recent = nullptr;
+    QList<QAction*> m_recentActions; // hidden beyond the files there are
     QList<QAction*> m_actions; // in the order of the menus
     QList<QAction*> m_imageActions;
     QList<QAction*> m_fileActions;

@@ -441,7 +441,8 @@ void ViewerWindow::saveScreenshot()
     QFileDialog dialog(this, tr("Save Screenshot"), m_folder, tr("PNG picture (*.png)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix("png");
-    dialog.selectFile(QFileInfo(m_file).completeBaseName() + "-screenshot.png");
+    const QString name = QFileInfo(m_file).completeBaseName();
+    dialog.selectFile(name.isEmpty() ? "screenshot.png" : name + "-screenshot.png");
     if (dialog.exec() != QDialog::Accepted) {
         return;
     }

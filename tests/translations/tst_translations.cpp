@@ -243,7 +243,8 @@ void TestTranslations::menus_haveDifferentAccessKeys()
         QStringList keys;
         for (const QAction* action : menu->actions()) {
             const int mark = int(action->text().indexOf('&'));
-            QVERIFY2(action->isSeparator() || mark >= 0, qPrintable(action->text()));
+            QVERIFY2(action->isSeparator() || !action->isVisible() || mark >= 0,
+                qPrintable(action->text()));
             if (mark >= 0) {
                 keys << action->text().mid(mark + 1, 1).toLower();
             }

@@ -17,6 +17,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTimer>
@@ -84,6 +86,7 @@ private Q_SLOTS:
     void palettes();
     void fullScreen();
     void help();
+    void help_scrollsInASmallWindow();
     void help_listsEveryKey();
     void about();
 
@@ -475,6 +478,31 @@ void TestViewerMenu::help()
     QVERIFY(!overlay->isVisible());
     press("F1");
     QTest::keyClick(overlay, Qt::Key_F1);
+    QVERIFY(!overlay->isVisible());
+    press("F1");
+    QTest::keyClick(overlay, Qt::Key_Tab);
+    QVERIFY(!overlay->isVisible());
+}
+
+void TestViewerMenu::help_scrollsInASmallWindow()
+{
+    auto* overlay = m_viewer->window->findChild<HelpOverlay*>();
+    press("F1");
+    QScrollBar* bar = overlay->findChild<QScrollArea*>()->verticalScrollBar();
+    QCOMPARE(bar->maximum(), 0); // all of it is seen
+    m_viewer->window->resize(640, 480);
+    QTRY_VERIFY(bar->maximum() > 0);
+    QCOMPARE(overlay->findChild<QScrollArea*>()->horizontalScrollBar()->maximum(), 0);
+    QTest::keyClick(overlay, Qt::Key_Down);
+    const int line = bar->value();
+    QVERIFY(line > 0);
+    QTest::keyClick(overlay, Qt::Key_PageDown);
+    QVERIFY(bar->value() > 2 * line);
+    QTest::keyClick(overlay, Qt::Key_PageUp);
+    QTest::keyClick(overlay, Qt::Key_Up);
+    QCOMPARE(bar->value(), 0);
+    QVERIFY(overlay->isVisible());
+    QTest::keyClick(overlay, Qt::Key_Escape);
     QVERIFY(!overlay->isVisible());
 }
 
