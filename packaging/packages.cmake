@@ -56,6 +56,9 @@ if(VKINTENSITY_BUILD_VIEWER)
     set(CPACK_COMPONENT_VIEWER_DEPENDS library)
     set(CPACK_DEBIAN_VIEWER_PACKAGE_NAME vkviewer)
     set(CPACK_DEBIAN_VIEWER_PACKAGE_SECTION science)
+    set(qt5_translations qttranslations5-l10n) # the texts of Qt's own dialogs
+    set(qt6_translations qt6-translations-l10n)
+    set(CPACK_DEBIAN_VIEWER_PACKAGE_RECOMMENDS ${qt${QT_VERSION_MAJOR}_translations})
     set(CPACK_DEBIAN_VIEWER_DESCRIPTION [[viewer for the intensity of camera images
 VKViewer shows a camera image with the row and the column profile through a
 cross-hair, rulers in pixels or wavelengths, false-colour palettes and the
