@@ -447,6 +447,29 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
     </message>
 </context>
 <context>
+    <name>StatusLine</name>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Progress of the load</source>
+        <translation>Fortschritt des Ladens</translation>
+    </message>
+    <message>
+        <source>Time that the image took to load</source>
+        <translation>Ladezeit des Bildes</translation>
+    </message>
+    <message>
+        <source>Loading %1...</source>
+        <translation>%1 wird geladen...</translation>
+    </message>
+</context>
+<context>
     <name>ViewerMenu</name>
     <message>
         <source>&amp;File</source>
@@ -595,26 +618,6 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
 </context>
 <context>
     <name>ViewerWindow</name>
-    <message>
-        <source>%1 ms</source>
-        <translation>%1 ms</translation>
-    </message>
-    <message>
-        <source>%1 s</source>
-        <translation>%1 s</translation>
-    </message>
-    <message>
-        <source>Progress of the load</source>
-        <translation>Fortschritt des Ladens</translation>
-    </message>
-    <message>
-        <source>Time that the image took to load</source>
-        <translation>Ladezeit des Bildes</translation>
-    </message>
-    <message>
-        <source>Loading %1...</source>
-        <translation>%1 wird geladen...</translation>
-    </message>
     <message>
         <source>VKIntensity Viewer</source>
         <translation>VKIntensity Viewer</translation>

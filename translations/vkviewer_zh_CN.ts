@@ -446,6 +446,29 @@ its images are shown in a gallery.
     </message>
 </context>
 <context>
+    <name>StatusLine</name>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 毫秒</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>Progress of the load</source>
+        <translation>加载进度</translation>
+    </message>
+    <message>
+        <source>Time that the image took to load</source>
+        <translation>图像加载用时</translation>
+    </message>
+    <message>
+        <source>Loading %1...</source>
+        <translation>正在加载 %1...</translation>
+    </message>
+</context>
+<context>
     <name>ViewerMenu</name>
     <message>
         <source>&amp;File</source>
@@ -594,26 +617,6 @@ its images are shown in a gallery.
 </context>
 <context>
     <name>ViewerWindow</name>
-    <message>
-        <source>%1 ms</source>
-        <translation>%1 毫秒</translation>
-    </message>
-    <message>
-        <source>%1 s</source>
-        <translation>%1 秒</translation>
-    </message>
-    <message>
-        <source>Progress of the load</source>
-        <translation>加载进度</translation>
-    </message>
-    <message>
-        <source>Time that the image took to load</source>
-        <translation>图像加载用时</translation>
-    </message>
-    <message>
-        <source>Loading %1...</source>
-        <translation>正在加载 %1...</translation>
-    </message>
     <message>
         <source>VKIntensity Viewer</source>
         <translation>VKIntensity Viewer</translation>

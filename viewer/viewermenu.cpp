@@ -2,10 +2,10 @@
 
 #include "imagecontrols.h"
 #include "recentfiles.h"
-#include "viewerwindow.h"
 
 #include <QAction>
 #include <QActionGroup>
+#include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
@@ -27,7 +27,7 @@ QString keyTexts(const QAction& action)
 
 } // namespace
 
-ViewerMenu::ViewerMenu(ViewerWindow* window)
+ViewerMenu::ViewerMenu(QMainWindow* window)
     : QObject(window)
     , m_window(window)
 {
@@ -39,13 +39,18 @@ ViewerMenu::ViewerMenu(ViewerWindow* window)
     setAvailable(false, false);
 }
 
-QAction* ViewerMenu::add(QMenu* menu, const char* name, const QString& text,
-    const QList<QKeySequence>& keys, Slot slot, Needs needs)
+QMenu* ViewerMenu::addMenu(const QString& title)
+{
+    return m_window->menuBar()->addMenu(title);
+}
+
+QAction* ViewerMenu::add(QMenu* menu, ViewerCommand command, const char* name, const QString& text,
+    const QList<QKeySequence>& keys, Needs needs)
 {
     QAction* action = menu->addAction(text);
     action->setObjectName(name);
     action->setShortcuts(keys);
-    connect(action, &QAction::triggered, m_window, slot);
+    m_commands.insert(int(command), action);
     m_actions << action;
     if (needs == Needs::Image) {
         m_imageActions << action;
@@ -57,26 +62,25 @@ QAction* ViewerMenu::add(QMenu* menu, const char* name, const QString& text,
 
 void ViewerMenu::buildFileMenu()
 {
-    QMenu* menu = m_window->menuBar()->addMenu(tr("&File"));
-    add(menu, "actionOpen", tr("&Open..."), { QKeySequence("Ctrl+O") }, &ViewerWindow::chooseFile);
-    add(menu, "actionOpenFolder", tr("Open &Folder..."), { QKeySequence("Ctrl+Shift+O") },
-        &ViewerWindow::chooseFolder);
+    QMenu* menu = addMenu(tr("&File"));
+    add(menu, ViewerCommand::Open, "actionOpen", tr("&Open..."), { QKeySequence("Ctrl+O") });
+    add(menu, ViewerCommand::OpenFolder, "actionOpenFolder", tr("Open &Folder..."),
+        { QKeySequence("Ctrl+Shift+O") });
     buildRecentMenu(menu->addMenu(tr("Open &Recent")));
-    add(menu, "actionGallery", tr("&Gallery"), { QKeySequence("Ctrl+G") },
-        &ViewerWindow::showMenuGallery);
+    add(menu, ViewerCommand::Gallery, "actionGallery", tr("&Gallery"), { QKeySequence("Ctrl+G") });
     menu->addSeparator();
-    add(menu, "actionNext", tr("&Next Image"), { QKeySequence("PgDown") }, &ViewerWindow::showNext,
+    add(menu, ViewerCommand::Next, "actionNext", tr("&Next Image"), { QKeySequence("PgDown") },
         Needs::File);
-    add(menu, "actionPrevious", tr("&Previous Image"), { QKeySequence("PgUp") },
-        &ViewerWindow::showPrevious, Needs::File);
-    add(menu, "actionReload", tr("Re&load"), { QKeySequence("F5") }, &ViewerWindow::reload,
+    add(menu, ViewerCommand::Previous, "actionPrevious", tr("&Previous Image"),
+        { QKeySequence("PgUp") }, Needs::File);
+    add(menu, ViewerCommand::Reload, "actionReload", tr("Re&load"), { QKeySequence("F5") },
         Needs::File);
     menu->addSeparator();
-    add(menu, "actionSaveScreenshot", tr("&Save Screenshot..."), { QKeySequence("Ctrl+S") },
-        &ViewerWindow::saveScreenshot);
+    add(menu, ViewerCommand::SaveScreenshot, "actionSaveScreenshot", tr("&Save Screenshot..."),
+        { QKeySequence("Ctrl+S") });
     menu->addSeparator();
-    add(menu, "actionClose", tr("&Close"), { QKeySequence("Ctrl+W") }, &ViewerWindow::closeFile);
-    add(menu, "actionQuit", tr("&Quit"), { QKeySequence("Ctrl+Q") }, &ViewerWindow::quit);
+    add(menu, ViewerCommand::Close, "actionClose", tr("&Close"), { QKeySequence("Ctrl+W") });
+    add(menu, ViewerCommand::Quit, "actionQuit", tr("&Quit"), { QKeySequence("Ctrl+Q") });
 }
 
 /// The entries stay and change their texts: one of them may just be the caller of what changes
@@ -87,54 +91,54 @@ void ViewerMenu::buildRecentMenu(QMenu* menu)
     m_recent->setObjectName("menuRecent");
     for (int i = 0; i < RecentFiles::most; ++i) {
         QAction* action = m_recent->addAction(QString());
-        connect(action, &QAction::triggered, m_window, [this, i] { m_window->openRecentFile(i); });
+        connect(action, &QAction::triggered, this, [this, i] { Q_EMIT recentFileChosen(i); });
         m_recentActions << action;
     }
     m_recent->addSeparator();
-    m_recent->addAction(tr("&Clear"), m_window, &ViewerWindow::clearRecentFiles);
+    m_commands.insert(int(ViewerCommand::ClearRecentFiles), m_recent->addAction(tr("&Clear")));
     setRecentFiles({});
 }
 
 void ViewerMenu::buildEditMenu()
 {
-    QMenu* menu = m_window->menuBar()->addMenu(tr("&Edit"));
-    add(menu, "actionCopyWindow", tr("&Copy Window"), { QKeySequence("Ctrl+C") },
-        &ViewerWindow::copyWindow);
-    add(menu, "actionCopyCanvas", tr("Copy C&anvas"), { QKeySequence("Ctrl+Shift+C") },
-        &ViewerWindow::copyCanvas, Needs::Image);
+    QMenu* menu = addMenu(tr("&Edit"));
+    add(menu, ViewerCommand::CopyWindow, "actionCopyWindow", tr("&Copy Window"),
+        { QKeySequence("Ctrl+C") });
+    add(menu, ViewerCommand::CopyCanvas, "actionCopyCanvas", tr("Copy C&anvas"),
+        { QKeySequence("Ctrl+Shift+C") }, Needs::Image);
 }
 
 void ViewerMenu::buildViewMenu()
 {
-    QMenu* menu = m_window->menuBar()->addMenu(tr("&View"));
-    m_zoomActions << add(menu, "actionZoomIn", tr("Zoom &In"),
-        { QKeySequence("Ctrl++"), QKeySequence("Ctrl+=") }, &ViewerWindow::zoomIn);
+    QMenu* menu = addMenu(tr("&View"));
+    m_zoomActions << add(menu, ViewerCommand::ZoomIn, "actionZoomIn", tr("Zoom &In"),
+        { QKeySequence("Ctrl++"), QKeySequence("Ctrl+=") });
     m_zoomActions << add(
-        menu, "actionZoomOut", tr("Zoom &Out"), { QKeySequence("Ctrl+-") }, &ViewerWindow::zoomOut);
+        menu, ViewerCommand::ZoomOut, "actionZoomOut", tr("Zoom &Out"), { QKeySequence("Ctrl+-") });
     menu->addSeparator();
     addViews(menu);
     menu->addSeparator();
     addPalettes(menu->addMenu(tr("&Palette")));
     menu->addSeparator();
-    m_fullScreen = add(menu, "actionFullScreen", tr("&Full Screen"), { QKeySequence("F11") },
-        &ViewerWindow::toggleFullScreen);
-    m_fullScreen->setCheckable(true);
-    m_leaveFullScreen = new QAction(this);
-    m_leaveFullScreen->setObjectName("actionLeaveFullScreen");
-    m_leaveFullScreen->setShortcut(QKeySequence("Esc"));
-    connect(m_leaveFullScreen, &QAction::triggered, m_window, &ViewerWindow::toggleFullScreen);
-    m_window->addAction(m_leaveFullScreen);
+    add(menu, ViewerCommand::FullScreen, "actionFullScreen", tr("&Full Screen"),
+        { QKeySequence("F11") })
+        ->setCheckable(true);
+    auto* leave = new QAction(this);
+    leave->setObjectName("actionLeaveFullScreen");
+    leave->setShortcut(QKeySequence("Esc"));
+    m_window->addAction(leave);
+    m_commands.insert(int(ViewerCommand::LeaveFullScreen), leave);
     markFullScreen(false);
 }
 
 void ViewerMenu::addViews(QMenu* menu)
 {
-    m_viewActions << add(menu, "actionImageView", tr("I&mage"), { QKeySequence("Ctrl+1") },
-        &ViewerWindow::showImageView, Needs::Image);
-    m_viewActions << add(menu, "actionRowChart", tr("2D Chart of the &Row"),
-        { QKeySequence("Ctrl+2") }, &ViewerWindow::showRowChart, Needs::Image);
-    m_viewActions << add(menu, "actionColumnChart", tr("2D Chart of the &Column"),
-        { QKeySequence("Ctrl+3") }, &ViewerWindow::showColumnChart, Needs::Image);
+    m_viewActions << add(menu, ViewerCommand::ImageView, "actionImageView", tr("I&mage"),
+        { QKeySequence("Ctrl+1") }, Needs::Image);
+    m_viewActions << add(menu, ViewerCommand::RowChart, "actionRowChart",
+        tr("2D Chart of the &Row"), { QKeySequence("Ctrl+2") }, Needs::Image);
+    m_viewActions << add(menu, ViewerCommand::ColumnChart, "actionColumnChart",
+        tr("2D Chart of the &Column"), { QKeySequence("Ctrl+3") }, Needs::Image);
     auto* group = new QActionGroup(this);
     for (QAction* action : m_viewActions) {
         action->setCheckable(true);
@@ -153,8 +157,8 @@ void ViewerMenu::addPalettes(QMenu* menu)
         action->setObjectName("actionPalette" + names[i]);
         action->setShortcut(QKeySequence(QString("Alt+%1").arg(i + 1)));
         action->setWhatsThis(helps[i]);
-        connect(action, &QAction::triggered, m_window,
-            [this, name = names[i]] { m_window->choosePalette(name); });
+        connect(action, &QAction::triggered, this,
+            [this, name = names[i]] { Q_EMIT paletteChosen(name); });
         m_actions << action;
         m_imageActions << action;
     }
@@ -162,9 +166,9 @@ void ViewerMenu::addPalettes(QMenu* menu)
 
 void ViewerMenu::buildHelpMenu()
 {
-    QMenu* menu = m_window->menuBar()->addMenu(tr("&Help"));
-    add(menu, "actionHelp", tr("&Mouse and Keys"), { QKeySequence("F1") }, &ViewerWindow::showHelp);
-    add(menu, "actionAbout", tr("&About"), {}, &ViewerWindow::showAbout);
+    QMenu* menu = addMenu(tr("&Help"));
+    add(menu, ViewerCommand::Help, "actionHelp", tr("&Mouse and Keys"), { QKeySequence("F1") });
+    add(menu, ViewerCommand::About, "actionAbout", tr("&About"), {});
 }
 
 void ViewerMenu::setAvailable(bool isImage, bool isFile)
@@ -200,8 +204,8 @@ void ViewerMenu::setRecentFiles(const QStringList& texts)
 
 void ViewerMenu::markFullScreen(bool isFull)
 {
-    m_fullScreen->setChecked(isFull);
-    m_leaveFullScreen->setEnabled(isFull);
+    action(ViewerCommand::FullScreen)->setChecked(isFull);
+    action(ViewerCommand::LeaveFullScreen)->setEnabled(isFull);
 }
 
 QVector<HelpLine> ViewerMenu::keys() const

@@ -2,24 +2,53 @@
 
 #include "helpoverlay.h"
 
+#include <QHash>
 #include <QKeySequence>
 #include <QList>
 #include <QObject>
 #include <QStringList>
 
 class QAction;
+class QMainWindow;
 class QMenu;
-class ViewerWindow;
 enum class ImageView;
 
-/// The menus of the window, whose entries call it. The entries are also actions of the window
-/// itself: their keys work while the menu bar is hidden.
+/// What the menus offer beside recent files and palettes.
+enum class ViewerCommand {
+    Open,
+    OpenFolder,
+    ClearRecentFiles,
+    Gallery,
+    Next,
+    Previous,
+    Reload,
+    SaveScreenshot,
+    Close,
+    Quit,
+    CopyWindow,
+    CopyCanvas,
+    ZoomIn,
+    ZoomOut,
+    ImageView,
+    RowChart,
+    ColumnChart,
+    FullScreen,
+    LeaveFullScreen, ///< by its key alone
+    Help,
+    About
+};
+
+/// The menus of a window, with their keys. The entries are also actions of the window itself: their
+/// keys work while the menu bar is hidden.
 class ViewerMenu : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit ViewerMenu(ViewerWindow* window);
+    explicit ViewerMenu(QMainWindow* window);
+
+    /// The entry; its triggered() tells that it was chosen.
+    QAction* action(ViewerCommand command) const { return m_commands.value(int(command)); }
 
     /// What can be done now: `isImage` with an image in front, `isFile` with an image or the page
     /// that says why there is none.
@@ -30,8 +59,7 @@ public:
 
     void markView(ImageView view);
 
-    /// One entry a text, RecentFiles::most of them at most; choosing one calls
-    /// ViewerWindow::openRecentFile() with its index.
+    /// One entry a text, RecentFiles::most of them at most.
     void setRecentFiles(const QStringList& texts);
 
     void markFullScreen(bool isFull);
@@ -39,11 +67,15 @@ public:
     /// Every key, in the order of the menus.
     QVector<HelpLine> keys() const;
 
+Q_SIGNALS:
+    void recentFileChosen(int index);
+    void paletteChosen(const QString& name); ///< one of ImageControls::paletteNames()
+
 private:
     enum class Needs { Nothing, File, Image };
-    using Slot = void (ViewerWindow::*)();
-    QAction* add(QMenu* menu, const char* name, const QString& text,
-        const QList<QKeySequence>& keys, Slot slot, Needs needs = Needs::Nothing);
+    QMenu* addMenu(const QString& title);
+    QAction* add(QMenu* menu, ViewerCommand command, const char* name, const QString& text,
+        const QList<QKeySequence>& keys, Needs needs = Needs::Nothing);
     void buildFileMenu();
     void buildRecentMenu(QMenu* menu);
     void buildEditMenu();
@@ -52,7 +84,8 @@ private:
     void addPalettes(QMenu* menu);
     void buildHelpMenu();
 
-    ViewerWindow* m_window;
+    QMainWindow* m_window;
+    QHash<int, QAction*> m_commands; // by ViewerCommand
     QMenu* m_recent = nullptr;
     QList<QAction*> m_recentActions; // hidden beyond the files there are
     QList<QAction*> m_actions; // in the order of the menus
@@ -60,6 +93,4 @@ private:
     QList<QAction*> m_fileActions;
     QList<QAction*> m_zoomActions;
     QList<QAction*> m_viewActions; // in the order of ImageView
-    QAction* m_fullScreen = nullptr;
-    QAction* m_leaveFullScreen = nullptr; // by a key alone
 };

@@ -2,15 +2,16 @@
 
 #include "appearance.h"
 #include "cvkintensitywidget.h"
-#include "elidedlabel.h"
 #include "gallerypage.h"
 #include "helpoverlay.h"
 #include "imagefiles.h"
 #include "pages.h"
 #include "picturefile.h"
 #include "readahead.h"
+#include "statusline.h"
 #include "viewermenu.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
@@ -20,16 +21,13 @@
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QLocale>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSettings>
 #include <QStackedWidget>
-#include <QStatusBar>
 #include <QTimer>
 
 namespace {
@@ -48,23 +46,6 @@ constexpr char geometryKey[] = "window/geometry";
 constexpr char folderKey[] = "files/folder";
 constexpr char recentKey[] = "files/recent";
 
-/// "12 ms", or "1.4 s" from a second on.
-QString durationText(qint64 milliseconds)
-{
-    const QLocale locale;
-    return milliseconds < 1000
-        ? ViewerWindow::tr("%1 ms").arg(locale.toString(milliseconds))
-        : ViewerWindow::tr("%1 s").arg(locale.toString(double(milliseconds) / 1000.0, 'f', 1));
-}
-
-QLabel* statusLabel(const char* objectName)
-{
-    auto* label = new QLabel;
-    label->setObjectName(objectName);
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
-
 } // namespace
 
 ViewerWindow::ViewerWindow(QWidget* parent)
@@ -72,8 +53,9 @@ ViewerWindow::ViewerWindow(QWidget* parent)
 {
     setAcceptDrops(true);
     createPages();
-    createStatusBar();
-    m_menu = new ViewerMenu(this);
+    m_status = new StatusLine;
+    setStatusBar(m_status);
+    createMenu();
     m_help = new HelpOverlay(m_menu->keys(), this);
     createIntensityWidget();
     connect(&m_watch, &FileWatch::changed, this, &ViewerWindow::reload);
@@ -83,6 +65,40 @@ ViewerWindow::ViewerWindow(QWidget* parent)
 }
 
 ViewerWindow::~ViewerWindow() = default;
+
+void ViewerWindow::createMenu()
+{
+    m_menu = new ViewerMenu(this);
+    using Slot = void (ViewerWindow::*)();
+    const QVector<QPair<ViewerCommand, Slot>> commands {
+        { ViewerCommand::Open, &ViewerWindow::chooseFile },
+        { ViewerCommand::OpenFolder, &ViewerWindow::chooseFolder },
+        { ViewerCommand::Gallery, &ViewerWindow::showMenuGallery },
+        { ViewerCommand::Next, &ViewerWindow::showNext },
+        { ViewerCommand::Previous, &ViewerWindow::showPrevious },
+        { ViewerCommand::Reload, &ViewerWindow::reload },
+        { ViewerCommand::SaveScreenshot, &ViewerWindow::saveScreenshot },
+        { ViewerCommand::Close, &ViewerWindow::closeFile },
+        { ViewerCommand::Quit, &ViewerWindow::quit },
+        { ViewerCommand::ClearRecentFiles, &ViewerWindow::clearRecentFiles },
+        { ViewerCommand::CopyWindow, &ViewerWindow::copyWindow },
+        { ViewerCommand::CopyCanvas, &ViewerWindow::copyCanvas },
+        { ViewerCommand::ZoomIn, &ViewerWindow::zoomIn },
+        { ViewerCommand::ZoomOut, &ViewerWindow::zoomOut },
+        { ViewerCommand::ImageView, &ViewerWindow::showImageView },
+        { ViewerCommand::RowChart, &ViewerWindow::showRowChart },
+        { ViewerCommand::ColumnChart, &ViewerWindow::showColumnChart },
+        { ViewerCommand::FullScreen, &ViewerWindow::toggleFullScreen },
+        { ViewerCommand::LeaveFullScreen, &ViewerWindow::toggleFullScreen },
+        { ViewerCommand::Help, &ViewerWindow::showHelp },
+        { ViewerCommand::About, &ViewerWindow::showAbout },
+    };
+    for (const auto& [command, slot] : commands) {
+        connect(m_menu->action(command), &QAction::triggered, this, slot);
+    }
+    connect(m_menu, &ViewerMenu::recentFileChosen, this, &ViewerWindow::openRecentFile);
+    connect(m_menu, &ViewerMenu::paletteChosen, this, &ViewerWindow::choosePalette);
+}
 
 void ViewerWindow::createPages()
 {
@@ -100,26 +116,6 @@ void ViewerWindow::createPages()
     connect(m_galleryPage, &GalleryPage::imageRequested, this, &ViewerWindow::openFile);
     connect(m_galleryPage, &GalleryPage::openRequested, this, &ViewerWindow::chooseFile);
     connect(m_galleryPage, &GalleryPage::folderRequested, this, &ViewerWindow::chooseFolder);
-}
-
-/// File name, progress of a long load, size and depth, time to load.
-void ViewerWindow::createStatusBar()
-{
-    m_fileName = new ElidedLabel;
-    m_fileName->setObjectName("statusFileName");
-    m_progress = new QProgressBar;
-    m_progress->setObjectName("statusProgress");
-    m_progress->setAccessibleName(tr("Progress of the load"));
-    m_progress->setFixedSize(scaledForScreen(160), scaledForScreen(14));
-    m_progress->hide();
-    m_imageSize = statusLabel("statusImageSize");
-    m_loadTime = statusLabel("statusLoadTime");
-    m_loadTime->setToolTip(tr("Time that the image took to load"));
-    statusBar()->addWidget(m_fileName, 1);
-    for (QWidget* widget : { static_cast<QWidget*>(m_progress), static_cast<QWidget*>(m_imageSize),
-             static_cast<QWidget*>(m_loadTime) }) {
-        statusBar()->addPermanentWidget(widget);
-    }
 }
 
 /// Makes a fresh intensity widget in place of the one there is.
@@ -195,14 +191,15 @@ bool ViewerWindow::openFile(const QString& path)
     m_file = file.absoluteFilePath();
     m_watch.watch(m_file); // before the load, which could miss the end of it
     const bool loaded = loadIntoWidget(m_file);
-    m_progress->hide();
+    m_status->hideProgress();
     if (!loaded) {
         showProblem(path);
         return false;
     }
     rememberFile(m_file);
     updateMenu();
-    nameFile(path, imageSummary(path), durationText(clock.elapsed()));
+    nameFile(path);
+    m_status->showImage(imageSummary(path), clock.elapsed());
     return true;
 }
 
@@ -210,8 +207,11 @@ bool ViewerWindow::openFile(const QString& path)
 /// painted before openFile() has decided which page stays.
 bool ViewerWindow::loadIntoWidget(const QString& path)
 {
-    announceLoading(path);
-    readAhead(path, [this](int percent) { showProgress(percent); });
+    nameFile(path);
+    if (QFileInfo(path).size() > smallFileSize) {
+        m_status->showLoading(QFileInfo(path).fileName());
+        readAhead(path, [this](int percent) { m_status->showProgress(percent); });
+    }
     if (!m_intensityWidget) {
         createIntensityWidget();
     }
@@ -227,31 +227,11 @@ bool ViewerWindow::loadIntoWidget(const QString& path)
     return true;
 }
 
-/// The status bar says what is read. It is painted at once and without looking at other events: a
-/// key or a drop in the middle of a load waits for its end.
-void ViewerWindow::announceLoading(const QString& path)
-{
-    nameFile(path, QString(), QString());
-    if (QFileInfo(path).size() > smallFileSize) {
-        m_fileName->setText(tr("Loading %1...").arg(QFileInfo(path).fileName()));
-        m_progress->setValue(0);
-        m_progress->show();
-        QCoreApplication::sendPostedEvents(statusBar(), QEvent::LayoutRequest);
-        statusBar()->repaint();
-    }
-}
-
-void ViewerWindow::showProgress(int percent)
-{
-    m_progress->setValue(percent);
-    m_progress->repaint();
-}
-
 void ViewerWindow::showProblem(const QString& path)
 {
     m_problemPage->showProblem(path, loadProblem(path));
     showPage(m_problemPage);
-    nameFile(path, QString(), QString());
+    nameFile(path);
 }
 
 void ViewerWindow::rememberFile(const QString& path)
@@ -260,23 +240,19 @@ void ViewerWindow::rememberFile(const QString& path)
     storeSession();
 }
 
-void ViewerWindow::nameFile(const QString& path, const QString& summary, const QString& time)
+void ViewerWindow::nameFile(const QString& path)
 {
     const QFileInfo file(path);
     nameWindow(file.fileName(), QDir::toNativeSeparators(file.absoluteFilePath()));
-    m_imageSize->setText(summary);
-    m_loadTime->setText(time);
 }
 
-/// Title of the window and texts of the status bar.
+/// Title of the window and text of the status line.
 void ViewerWindow::nameWindow(const QString& shown, const QString& status)
 {
     const QString application = tr("VKIntensity Viewer");
     const QString name = shown.simplified();
     setWindowTitle(name.isEmpty() ? application : name + " - " + application);
-    m_fileName->setText(status);
-    m_imageSize->clear();
-    m_loadTime->clear();
+    m_status->showName(status);
 }
 
 QString ViewerWindow::problem() const
@@ -390,7 +366,7 @@ void ViewerWindow::showNeighbour(int step, const QString& lackOfOne)
 {
     const QString path = neighbourInFolder(m_file, step);
     if (path.isEmpty()) {
-        statusBar()->showMessage(lackOfOne, messageMilliseconds);
+        m_status->showMessage(lackOfOne, messageMilliseconds);
     } else {
         openFile(path);
     }
@@ -424,14 +400,14 @@ void ViewerWindow::clearRecentFiles()
 void ViewerWindow::copyWindow()
 {
     QApplication::clipboard()->setPixmap(grab());
-    statusBar()->showMessage(tr("The window is on the clipboard."), messageMilliseconds);
+    m_status->showMessage(tr("The window is on the clipboard."), messageMilliseconds);
 }
 
 void ViewerWindow::copyCanvas()
 {
     if (QWidget* canvas = m_controls.canvas()) {
         QApplication::clipboard()->setPixmap(canvas->grab());
-        statusBar()->showMessage(tr("The canvas is on the clipboard."), messageMilliseconds);
+        m_status->showMessage(tr("The canvas is on the clipboard."), messageMilliseconds);
     }
 }
 
@@ -448,7 +424,7 @@ void ViewerWindow::saveScreenshot()
     }
     const QString problem = savePicture(picture, dialog.selectedFiles().value(0));
     if (problem.isEmpty()) {
-        statusBar()->showMessage(tr("The screenshot is saved."), messageMilliseconds);
+        m_status->showMessage(tr("The screenshot is saved."), messageMilliseconds);
     } else {
         QMessageBox::warning(this, tr("Save Screenshot"), problem);
     }
@@ -494,7 +470,7 @@ void ViewerWindow::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::WindowStateChange) {
         menuBar()->setVisible(!isFullScreen());
-        statusBar()->setVisible(!isFullScreen());
+        m_status->setVisible(!isFullScreen());
         m_menu->markFullScreen(isFullScreen());
     }
     QMainWindow::changeEvent(event);

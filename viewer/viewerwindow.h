@@ -10,15 +10,13 @@
 #include <memory>
 
 class CVKIntensityWidget;
-class ElidedLabel;
 class GalleryPage;
 class HelpOverlay;
 class LoadProblemPage;
-class QLabel;
 class QMimeData;
-class QProgressBar;
 class QSettings;
 class QStackedWidget;
+class StatusLine;
 class ViewerMenu;
 class WelcomePage;
 
@@ -109,20 +107,18 @@ protected:
 
 private:
     void createPages();
-    void createStatusBar();
+    void createMenu();
     void createIntensityWidget();
     void showPage(QWidget* page);
     void updateMenu();
     void showWelcome();
     void releaseImage();
     bool loadIntoWidget(const QString& path);
-    void announceLoading(const QString& path);
-    void showProgress(int percent);
     void showProblem(const QString& path);
     void showNeighbour(int step, const QString& lackOfOne);
     void rememberFile(const QString& path);
     void storeSession();
-    void nameFile(const QString& path, const QString& summary, const QString& time);
+    void nameFile(const QString& path);
     void nameWindow(const QString& shown, const QString& status);
 
     QStackedWidget* m_pages = nullptr;
@@ -133,10 +129,7 @@ private:
     ImageControls m_controls; // of that widget
     ViewerMenu* m_menu = nullptr;
     HelpOverlay* m_help = nullptr;
-    ElidedLabel* m_fileName = nullptr;
-    QProgressBar* m_progress = nullptr;
-    QLabel* m_imageSize = nullptr;
-    QLabel* m_loadTime = nullptr;
+    StatusLine* m_status = nullptr;
     FileWatch m_watch; // on the file that is shown
     RecentFiles m_recent;
     std::unique_ptr<QSettings> m_settings; // null: nothing is remembered

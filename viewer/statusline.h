@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QStatusBar>
+
+class ElidedLabel;
+class QLabel;
+class QProgressBar;
+
+/// The line at the bottom of the window: name of the file, progress of a long load, size and depth
+/// of the image, and the time that it took to load.
+class StatusLine : public QStatusBar
+{
+    Q_OBJECT
+
+public:
+    explicit StatusLine(QWidget* parent = nullptr);
+
+    /// Shows `text` alone, without an image.
+    void showName(const QString& text);
+
+    /// Says at once that the file is being read, and starts the progress at 0. Painted without
+    /// looking at other events: a key or a drop in the middle of a load waits for its end.
+    void showLoading(const QString& fileName);
+
+    /// From 0 to 100; painted at once.
+    void showProgress(int percent);
+
+    void hideProgress();
+
+    /// Adds what is known about the image behind the name.
+    void showImage(const QString& summary, qint64 milliseconds);
+
+private:
+    ElidedLabel* m_name;
+    QProgressBar* m_progress;
+    QLabel* m_summary;
+    QLabel* m_time;
+};
