@@ -62,3 +62,13 @@ int scaledForScreen(int pixels)
     const QScreen* screen = QGuiApplication::primaryScreen();
     return screen ? int(pixels * screen->logicalDotsPerInch() / 96.0) : pixels;
 }
+
+QPixmap scaledPicture(const QString& resource, int side)
+{
+    const qreal ratio = qApp->devicePixelRatio();
+    const int pixels = int(scaledForScreen(side) * ratio);
+    QPixmap picture
+        = QPixmap(resource).scaled(pixels, pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    picture.setDevicePixelRatio(ratio);
+    return picture;
+}

@@ -45,21 +45,34 @@ void FileWatch::look()
 {
     addPaths();
     const State now = currentState();
-    if (now == m_seen && !m_rest.isActive()) {
+    if (now == m_seen) {
         return; // something else in the folder has changed
     }
+    if (!m_rest.isActive()) {
+        m_waiting.start();
+    }
     m_seen = now;
-    m_rest.start();
+    waitForRest();
+}
+
+/// Waits anew after each change, up to the limit: whoever writes without a pause is shown now and
+/// then.
+void FileWatch::waitForRest()
+{
+    if (!m_rest.isActive() || !m_waiting.hasExpired(longestMilliseconds)) {
+        m_rest.start();
+    }
 }
 
 void FileWatch::settle()
 {
     const State now = currentState();
-    if (!(now == m_seen)) {
+    if (!(now == m_seen) && !m_waiting.hasExpired(longestMilliseconds)) {
         m_seen = now;
-        m_rest.start(); // not every file system tells of each write
+        waitForRest(); // not every file system tells of each write
         return;
     }
+    m_seen = now;
     if (now.exists && !(now == m_known)) {
         m_known = now;
         Q_EMIT changed();

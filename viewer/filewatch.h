@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDateTime>
+#include <QElapsedTimer>
 #include <QFileSystemWatcher>
 #include <QObject>
 #include <QTimer>
@@ -13,6 +14,7 @@ class FileWatch : public QObject
 
 public:
     static constexpr int restMilliseconds = 400; ///< without a change until changed() is sent
+    static constexpr int longestMilliseconds = 3000; ///< that changes one after the other delay it
 
     explicit FileWatch(QObject* parent = nullptr);
 
@@ -37,12 +39,14 @@ private:
     };
 
     void look();
+    void waitForRest();
     void settle();
     void addPaths();
     State currentState() const;
 
     QFileSystemWatcher m_watcher;
     QTimer m_rest;
+    QElapsedTimer m_waiting; // since the first of the changes that are not announced
     QString m_path;
     State m_known; // what was announced or there at the start
     State m_seen; // at the last look

@@ -44,10 +44,8 @@ void paintGround(QPainter* painter, const QRect& tile, QStyle::State state)
 
 GalleryDelegate::GalleryDelegate(QObject* parent)
     : QStyledItemDelegate(parent)
-    , m_unreadable(":/viewer/problem.png")
+    , m_unreadable(scaledPicture(":/viewer/problem.png", 64))
 {
-    const int side = scaledForScreen(64);
-    m_unreadable = m_unreadable.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
 QSize GalleryDelegate::pictureSize()

@@ -56,6 +56,7 @@ QWidget* GalleryPage::createHeader()
 
     m_progress = new QProgressBar;
     m_progress->setObjectName("galleryProgress");
+    m_progress->setAccessibleName(tr("Progress of the small pictures"));
     m_progress->setTextVisible(false);
     m_progress->setFixedHeight(scaledForScreen(4));
     QSizePolicy policy = m_progress->sizePolicy();
@@ -80,6 +81,7 @@ QListView* GalleryPage::createView()
 {
     auto* view = new QListView;
     view->setObjectName("galleryView");
+    view->setAccessibleName(tr("Images of the folder"));
     view->setModel(&m_model);
     view->setItemDelegate(new GalleryDelegate(view));
     view->setViewMode(QListView::IconMode);

@@ -36,6 +36,7 @@ QVector<HelpLine> mouseLines()
         { HelpOverlay::tr("Click the chart"), HelpOverlay::tr("Read a sample of the profile") },
         { HelpOverlay::tr("Click a title bar"), HelpOverlay::tr("Fold a part of the panel") },
         { HelpOverlay::tr("Drop a file or folder"), HelpOverlay::tr("Open it") },
+        { HelpOverlay::tr("Double click in the gallery"), HelpOverlay::tr("Open the image") },
     };
 }
 

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QGraphicsView>
+#include <QLineEdit>
 #include <QVector>
 
 #include <iterator>
@@ -46,6 +47,8 @@ constexpr NamedControl namedControls[] {
     { "tool_Zoom_Out", QT_TRANSLATE_NOOP("ImageControls", "Zoom out") },
 };
 
+constexpr char paletteProperty[] = "chosenPalette"; // of the intensity widget; empty: gray
+
 /// The controls in that order; null for one that is not there.
 QVector<QWidget*> controlsInOrder(const QWidget* parent)
 {
@@ -80,6 +83,7 @@ void ImageControls::prepare()
     }
     nameControls();
     orderControls();
+    rememberPalette();
 }
 
 /// The wheel over a box scrolls the column; it would else change settings that happen to come by
@@ -96,6 +100,20 @@ void ImageControls::scrollInsteadOfChoosing()
     }
 }
 
+/// The panel does not tell which palette is shown, so the click on its button is noted.
+void ImageControls::rememberPalette()
+{
+    for (const QString& name : paletteNames()) {
+        auto* button = m_widget->findChild<QAbstractButton*>("pushButton" + name);
+        if (button) {
+            QObject::connect(
+                button, &QAbstractButton::clicked, m_widget, [widget = m_widget, name] {
+                    widget->setProperty(paletteProperty, name.toLower());
+                });
+        }
+    }
+}
+
 void ImageControls::nameControls()
 {
     const QVector<QWidget*> controls = controlsInOrder(m_widget);
@@ -104,6 +122,9 @@ void ImageControls::nameControls()
         if (controls[i] && spoken) {
             controls[i]->setAccessibleName(QCoreApplication::translate("ImageControls", spoken));
         }
+    }
+    if (auto* panel = m_widget->findChild<QWidget*>("Scroll_ModuleWidget")) {
+        panel->setAccessibleName(QCoreApplication::translate("ImageControls", "Panel"));
     }
 }
 
@@ -180,6 +201,44 @@ ImageView ImageControls::shownView() const
 void ImageControls::choosePalette(const QString& name)
 {
     click("pushButton" + name);
+}
+
+void ImageControls::forgetPalette()
+{
+    if (m_widget) {
+        m_widget->setProperty(paletteProperty, QString());
+    }
+}
+
+ControlSettings ImageControls::settings() const
+{
+    ControlSettings settings;
+    const auto* peaks = control<QAbstractButton>("checkBoxPeak");
+    const auto* peakCount = control<QLineEdit>("lineEditPeaks");
+    const auto* type = control<QComboBox>("comboBoxType");
+    const auto* unit = control<QComboBox>("comboBoxUnits");
+    const auto* start = control<QLineEdit>("lineEditXStart");
+    const auto* width = control<QLineEdit>("lineEditPixelWidth");
+    const ImageView view = shownView();
+    if (view != ImageView::Image) {
+        settings.view = view == ImageView::Row ? "x" : "y";
+        const bool arePeaksShown = peaks && peaks->isChecked() && peakCount;
+        settings.peakCount = arePeaksShown ? peakCount->text().toInt() : 0;
+    }
+    if (type && type->currentIndex() == 1 && unit && start && width) {
+        settings.hasWavelength = true;
+        settings.wavelengthStart = start->text().toInt();
+        settings.pixelWidth = qMax(width->text().toInt(), 1); // a field may just be empty
+        settings.wavelengthUnit = unit->currentIndex() == 1 ? "nm" : "um";
+    }
+    settings.palette = m_widget ? m_widget->property(paletteProperty).toString() : QString();
+    return settings;
+}
+
+int ImageControls::regionCount() const
+{
+    const auto* regions = control<QComboBox>("comboBoxRoi");
+    return regions ? qMax(regions->count() - 1, 0) : 0; // behind "None Select"
 }
 
 QStringList ImageControls::paletteNames()

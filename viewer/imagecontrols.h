@@ -1,5 +1,7 @@
 #pragma once
 
+#include "controlsettings.h"
+
 #include <QPointer>
 #include <QStringList>
 #include <QWidget>
@@ -32,6 +34,15 @@ public:
     /// As the panel's buttons carry them: "Gray", "Red", "Green", "Blue", "Color".
     static QStringList paletteNames();
 
+    /// To be called with each load, which resets the palette without a click.
+    void forgetPalette();
+
+    /// View, shown peaks, palette and wavelengths as they are now; no regions.
+    ControlSettings settings() const;
+
+    /// Regions of interest that are marked on the image.
+    int regionCount() const;
+
     /// The canvas alone, without panel and zoom buttons; null without a widget.
     QWidget* canvas() const;
 
@@ -40,6 +51,7 @@ private:
     Control* control(const QString& name) const;
     void click(const QString& name);
     void scrollInsteadOfChoosing();
+    void rememberPalette();
     void nameControls();
     void orderControls();
 

@@ -208,6 +208,11 @@ QString loadProblem(const QString& path)
         .arg(formatName(suffixOf(path)));
 }
 
+bool mayBeImage(const QString& path)
+{
+    return outerProblem(QFileInfo(path)).isEmpty() && !isHugeRawFileCutShort(path);
+}
+
 bool isRawFileWithoutPixels(const QString& path)
 {
     RawHeader header;
@@ -242,7 +247,11 @@ int imageDepth(const QString& path)
         return 0;
     }
     const int stored = storedDepth(&file);
-    return stored <= 8 ? 8 : stored;
+    int loaded = 8;
+    while (loaded < stored) {
+        loaded *= 2; // 12 bits take two bytes
+    }
+    return loaded;
 }
 
 QString imageSummary(const QString& path)

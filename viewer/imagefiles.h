@@ -25,6 +25,10 @@ QString neighbourInFolder(const QString& path, int step);
 /// a load has failed: when nothing else is wrong, the content is.
 QString loadProblem(const QString& path);
 
+/// Whether it is worth reading the file: one of a known suffix that can be read and is not empty,
+/// and no raw camera file that is cut short.
+bool mayBeImage(const QString& path);
+
 /// Whether the file is a raw camera file whose header says that it holds no pixels.
 bool isRawFileWithoutPixels(const QString& path);
 
@@ -36,7 +40,7 @@ bool isHugeRawFileCutShort(const QString& path);
 /// Size in pixels as the file's header says it; empty when it cannot be told.
 QSize imageSize(const QString& path);
 
-/// Bits a sample as the library loads them, at least 8; 0 when the header does not tell.
+/// Bits a sample as the library loads them: 8, 16, 32 or 64; 0 when the header does not tell.
 int imageDepth(const QString& path);
 
 /// Size and depth as one text, as far as they are known; empty when neither is.

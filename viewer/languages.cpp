@@ -37,7 +37,8 @@ bool installLanguage(QCoreApplication* application, const QLocale& locale)
         if (language.language() == QLocale::English || language.language() == QLocale::C) {
             return false; // whoever reads English before German gets English
         }
-        if (installAll(application, language)) {
+        const bool isSimplifiedChinese = language.script() == QLocale::SimplifiedHanScript;
+        if (installAll(application, isSimplifiedChinese ? QLocale("zh_CN") : language)) {
             return true;
         }
     }

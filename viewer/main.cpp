@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QSettings>
 #include <QTimer>
+#include <QWindow>
 
 #include <cstdio>
 #include <cstring>
@@ -17,9 +18,10 @@
 
 namespace {
 
+/// Whether the option is there, before "--" ends the options.
 bool hasArgument(int argc, char* argv[], const char* wanted)
 {
-    for (int i = 1; i < argc; ++i) {
+    for (int i = 1; i < argc && std::strcmp(argv[i], "--") != 0; ++i) {
         if (std::strcmp(argv[i], wanted) == 0) {
             return true;
         }
@@ -67,14 +69,42 @@ void prepareForDenseScreens()
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::Floor);
 }
 
+/// Opens the image once the window has been painted: until a long load has ended, the screen would
+/// else show what was there before.
+class OpenAfterPaint : public QObject
+{
+public:
+    OpenAfterPaint(ViewerWindow* window, const QString& image)
+        : QObject(window)
+        , m_window(window)
+        , m_image(image)
+    {
+        window->windowHandle()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Expose && m_window->windowHandle()->isExposed()) {
+            watched->removeEventFilter(this);
+            QTimer::singleShot(0, m_window, [this] { m_window->openPath(m_image); });
+        }
+        return false;
+    }
+
+private:
+    ViewerWindow* m_window;
+    QString m_image;
+};
+
 int runWindow(ViewerWindow* window, const QString& image)
 {
     window->resize(startSize());
     window->restoreSession(std::make_unique<QSettings>());
-    window->show();
+    window->winId(); // makes the handle that tells of the first painting
     if (!image.isEmpty()) {
-        QTimer::singleShot(0, window, [window, image] { window->openPath(image); });
+        new OpenAfterPaint(window, image);
     }
+    window->show();
     return QApplication::exec();
 }
 

@@ -26,11 +26,9 @@ Label* namedLabel(const QString& objectName, const QString& text)
 
 QLabel* picture(const QString& resource)
 {
-    const int side = scaledForScreen(112);
     auto* label = new QLabel;
     label->setAlignment(Qt::AlignCenter);
-    label->setPixmap(
-        QPixmap(resource).scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    label->setPixmap(scaledPicture(resource, 112));
     return label;
 }
 

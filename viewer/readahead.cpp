@@ -8,7 +8,8 @@
 void readAhead(const QString& path, const std::function<void(int percent)>& progress)
 {
     const QFileInfo info(path);
-    if (!info.isFile() || info.size() <= smallFileSize) {
+    const bool isLarge = info.size() > smallFileSize && info.size() <= largestImageFileSize;
+    if (!info.isFile() || !isLarge) {
         return;
     }
     QFile file(path);

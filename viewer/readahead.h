@@ -7,9 +7,12 @@
 /// Files up to this size are there before a progress bar could be read, in bytes.
 constexpr qint64 smallFileSize = qint64(16) << 20;
 
+/// No image that can be loaded is larger, in bytes: 2^31 - 1 bytes of pixels behind a header.
+constexpr qint64 largestImageFileSize = (qint64(1) << 31) + (qint64(1) << 20);
+
 /// Reads a large file once from end to end, so that the load that follows finds it in memory, and
 /// reports how far it is: from a slow drive the reading takes by far the longest, and the load
 /// itself reports nothing. `progress` gets each percentage from 1 to 100 that is reached, rising.
-/// Does nothing for small files, for what is no regular file, and stops quietly at a read error:
-/// the load meets it again.
+/// Does nothing for small files, for larger ones than images are, for what is no regular file, and
+/// stops quietly at a read error: the load meets it again.
 void readAhead(const QString& path, const std::function<void(int percent)>& progress);

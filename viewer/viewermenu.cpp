@@ -73,8 +73,7 @@ void ViewerMenu::buildFileMenu()
         Needs::File);
     add(menu, ViewerCommand::Previous, "actionPrevious", tr("&Previous Image"),
         { QKeySequence("PgUp") }, Needs::File);
-    add(menu, ViewerCommand::Reload, "actionReload", tr("Re&load"), { QKeySequence("F5") },
-        Needs::File);
+    add(menu, ViewerCommand::Reload, "actionReload", tr("Re&load"), { QKeySequence("F5") });
     menu->addSeparator();
     add(menu, ViewerCommand::SaveScreenshot, "actionSaveScreenshot", tr("&Save Screenshot..."),
         { QKeySequence("Ctrl+S") });
@@ -126,7 +125,8 @@ void ViewerMenu::buildViewMenu()
     auto* leave = new QAction(this);
     leave->setObjectName("actionLeaveFullScreen");
     leave->setShortcut(QKeySequence("Esc"));
-    m_window->addAction(leave);
+    leave->setWhatsThis(tr("Leave the full screen"));
+    m_actions << leave;
     m_commands.insert(int(ViewerCommand::LeaveFullScreen), leave);
     markFullScreen(false);
 }

@@ -88,7 +88,7 @@ private:
     QHash<int, QAction*> m_commands; // by ViewerCommand
     QMenu* m_recent = nullptr;
     QList<QAction*> m_recentActions; // hidden beyond the files there are
-    QList<QAction*> m_actions; // in the order of the menus
+    QList<QAction*> m_actions; // in the order of the menus, with what is a key alone
     QList<QAction*> m_imageActions;
     QList<QAction*> m_fileActions;
     QList<QAction*> m_zoomActions;

@@ -1,6 +1,7 @@
 #include "viewerwindow.h"
 
 #include "appearance.h"
+#include "controldriver.h"
 #include "cvkintensitywidget.h"
 #include "gallerypage.h"
 #include "helpoverlay.h"
@@ -28,6 +29,7 @@
 #include <QRadioButton>
 #include <QSettings>
 #include <QStackedWidget>
+#include <QStandardPaths>
 #include <QTimer>
 
 namespace {
@@ -42,6 +44,7 @@ public:
 };
 
 constexpr int messageMilliseconds = 4000;
+constexpr int vanishMilliseconds = 30;
 constexpr char geometryKey[] = "window/geometry";
 constexpr char folderKey[] = "files/folder";
 constexpr char recentKey[] = "files/recent";
@@ -58,7 +61,8 @@ ViewerWindow::ViewerWindow(QWidget* parent)
     createMenu();
     m_help = new HelpOverlay(m_menu->keys(), this);
     createIntensityWidget();
-    connect(&m_watch, &FileWatch::changed, this, &ViewerWindow::reload);
+    connect(&m_watch, &FileWatch::changed, this, &ViewerWindow::followFile);
+    connect(m_status, &QStatusBar::messageChanged, this, &ViewerWindow::updateBars);
     // Room for the panel column, the strips beside the image and a little image.
     setMinimumSize(scaledForScreen(290) + 350, 480);
     showWelcome();
@@ -142,7 +146,7 @@ void ViewerWindow::createIntensityWidget()
 bool ViewerWindow::restoreSession(std::unique_ptr<QSettings> settings)
 {
     m_settings = std::move(settings);
-    m_recent = RecentFiles(m_settings->value(recentKey).toStringList());
+    readRecentFiles();
     m_folder = m_settings->value(folderKey).toString();
     updateMenu();
     const bool restored = restoreGeometry(m_settings->value(geometryKey).toByteArray());
@@ -155,8 +159,25 @@ void ViewerWindow::storeSession()
     if (m_settings) {
         m_settings->setValue(geometryKey, saveGeometry());
         m_settings->setValue(folderKey, m_folder);
-        m_settings->setValue(recentKey, m_recent.paths());
     }
+}
+
+/// Takes over what other windows of the program have stored meanwhile.
+void ViewerWindow::readRecentFiles()
+{
+    if (m_settings) {
+        m_settings->sync();
+        m_recent = RecentFiles(m_settings->value(recentKey).toStringList());
+    }
+}
+
+void ViewerWindow::storeRecentFiles()
+{
+    if (m_settings) {
+        m_settings->setValue(recentKey, m_recent.paths());
+        m_settings->sync();
+    }
+    updateMenu();
 }
 
 void ViewerWindow::showPage(QWidget* page)
@@ -171,7 +192,9 @@ void ViewerWindow::updateMenu()
     const QWidget* page = m_pages->currentWidget();
     const bool isImage = page == m_intensityWidget;
     const ImageView view = m_controls.shownView();
-    m_menu->setAvailable(isImage, isImage || page == m_problemPage);
+    const bool isFile = isImage || page == m_problemPage;
+    m_menu->setAvailable(isImage, isFile);
+    m_menu->action(ViewerCommand::Reload)->setEnabled(isFile || page == m_galleryPage);
     m_menu->setZoomAvailable(isImage && view == ImageView::Image);
     m_menu->markView(view);
     QStringList recent;
@@ -192,12 +215,12 @@ bool ViewerWindow::openFile(const QString& path)
     m_watch.watch(m_file); // before the load, which could miss the end of it
     const bool loaded = loadIntoWidget(m_file);
     m_status->hideProgress();
+    updateBars();
     if (!loaded) {
         showProblem(path);
         return false;
     }
     rememberFile(m_file);
-    updateMenu();
     nameFile(path);
     m_status->showImage(imageSummary(path), clock.elapsed());
     return true;
@@ -208,7 +231,8 @@ bool ViewerWindow::openFile(const QString& path)
 bool ViewerWindow::loadIntoWidget(const QString& path)
 {
     nameFile(path);
-    if (QFileInfo(path).size() > smallFileSize) {
+    if (QFileInfo(path).size() > smallFileSize && mayBeImage(path)) {
+        m_status->show(); // also on a full screen
         m_status->showLoading(QFileInfo(path).fileName());
         readAhead(path, [this](int percent) { m_status->showProgress(percent); });
     }
@@ -216,6 +240,7 @@ bool ViewerWindow::loadIntoWidget(const QString& path)
         createIntensityWidget();
     }
     m_intensityWidget->closeImage();
+    m_controls.forgetPalette();
     m_pages->setCurrentWidget(m_intensityWidget);
     if (isHugeRawFileCutShort(path) || !m_intensityWidget->loadImage(path)) {
         return false;
@@ -236,8 +261,9 @@ void ViewerWindow::showProblem(const QString& path)
 
 void ViewerWindow::rememberFile(const QString& path)
 {
+    readRecentFiles();
     m_recent.add(path);
-    storeSession();
+    storeRecentFiles();
 }
 
 void ViewerWindow::nameFile(const QString& path)
@@ -252,6 +278,7 @@ void ViewerWindow::nameWindow(const QString& shown, const QString& status)
     const QString application = tr("VKIntensity Viewer");
     const QString name = shown.simplified();
     setWindowTitle(name.isEmpty() ? application : name + " - " + application);
+    m_status->clearMessage(); // about what was shown before
     m_status->showName(status);
 }
 
@@ -265,7 +292,7 @@ void ViewerWindow::chooseFile()
     const QString path
         = QFileDialog::getOpenFileName(this, tr("Open Image"), m_folder, openDialogFilter());
     if (!path.isEmpty()) {
-        openFile(path);
+        openSoon(path);
     }
 }
 
@@ -273,8 +300,15 @@ void ViewerWindow::chooseFolder()
 {
     const QString path = QFileDialog::getExistingDirectory(this, tr("Open Folder"), m_folder);
     if (!path.isEmpty()) {
-        showGallery(path);
+        openSoon(path);
     }
+}
+
+/// Opens a file or folder once the dialog or menu that named it has left the screen: a long load
+/// would keep it there.
+void ViewerWindow::openSoon(const QString& path)
+{
+    QTimer::singleShot(vanishMilliseconds, this, [this, path] { openPath(path); });
 }
 
 bool ViewerWindow::openPath(const QString& path)
@@ -313,6 +347,7 @@ bool ViewerWindow::isGalleryLoading() const
 
 void ViewerWindow::showWelcome()
 {
+    m_file.clear();
     releaseImage();
     m_galleryPage->stopLoading();
     showPage(m_welcomePage);
@@ -374,27 +409,61 @@ void ViewerWindow::showNeighbour(int step, const QString& lackOfOne)
 
 void ViewerWindow::reload()
 {
-    if (!m_file.isEmpty()) {
-        openFile(m_file);
+    if (m_pages->currentWidget() == m_galleryPage) {
+        showGallery(m_folder);
+    } else if (!m_file.isEmpty()) {
+        reloadImage();
+    }
+}
+
+/// The file has changed on disk. Regions of interest would be lost, so then the user decides; and
+/// nothing is replaced under a pressed button.
+void ViewerWindow::followFile()
+{
+    const QWidget* page = m_pages->currentWidget();
+    if (page != m_intensityWidget && page != m_problemPage) {
+        return;
+    }
+    if (page == m_intensityWidget && m_controls.regionCount() > 0) {
+        m_status->showMessage(tr("The file has changed. F5 loads it again, without the regions."));
+    } else if (QApplication::mouseButtons() == Qt::NoButton) {
+        reloadImage();
+    } else {
+        QTimer::singleShot(FileWatch::restMilliseconds, this, &ViewerWindow::followFile);
+    }
+}
+
+/// Opens the file and sets the controls as they were.
+void ViewerWindow::reloadImage()
+{
+    const ControlSettings settings = m_controls.settings();
+    const QPointer<QWidget> focused = focusWidget();
+    if (openFile(m_file) && !settings.isEmpty()) {
+        ControlDriver(m_intensityWidget, imageSize(m_file)).apply(settings);
+    }
+    if (focused && focused->isVisible()) {
+        focused->setFocus();
     }
 }
 
 void ViewerWindow::openRecentFile(int index)
 {
     const QString path = m_recent.paths().value(index);
-    if (path.isEmpty() || openFile(path)) {
-        return;
+    const QFileInfo file(path);
+    if (!file.exists() && file.dir().exists()) { // else its drive may just be away
+        readRecentFiles();
+        m_recent.remove(path);
+        storeRecentFiles();
     }
-    m_recent.remove(path);
-    storeSession();
-    updateMenu();
+    if (!path.isEmpty()) {
+        openSoon(path);
+    }
 }
 
 void ViewerWindow::clearRecentFiles()
 {
     m_recent.clear();
-    storeSession();
-    updateMenu();
+    storeRecentFiles();
 }
 
 void ViewerWindow::copyWindow()
@@ -414,16 +483,24 @@ void ViewerWindow::copyCanvas()
 void ViewerWindow::saveScreenshot()
 {
     const QPixmap picture = grab(); // before the dialog covers it
-    QFileDialog dialog(this, tr("Save Screenshot"), m_folder, tr("PNG picture (*.png)"));
+    const bool isGallery = m_pages->currentWidget() == m_galleryPage;
+    const QString shown
+        = isGallery ? QDir(m_folder).dirName() : QFileInfo(m_file).completeBaseName();
+    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    QFileDialog dialog(this, tr("Save Screenshot"), m_pictureFolder, tr("PNG picture (*.png)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix("png");
-    const QString name = QFileInfo(m_file).completeBaseName();
-    dialog.selectFile(name.isEmpty() ? "screenshot.png" : name + "-screenshot.png");
+    if (m_pictureFolder.isEmpty() && QFileInfo(pictures).isDir()) {
+        dialog.setDirectory(pictures); // beside the images it would become one of them
+    }
+    dialog.selectFile(shown.isEmpty() ? "screenshot.png" : shown + "-screenshot.png");
     if (dialog.exec() != QDialog::Accepted) {
         return;
     }
-    const QString problem = savePicture(picture, dialog.selectedFiles().value(0));
+    const QString path = dialog.selectedFiles().value(0);
+    const QString problem = savePicture(picture, path);
     if (problem.isEmpty()) {
+        m_pictureFolder = QFileInfo(path).absolutePath();
         m_status->showMessage(tr("The screenshot is saved."), messageMilliseconds);
     } else {
         QMessageBox::warning(this, tr("Save Screenshot"), problem);
@@ -465,15 +542,21 @@ void ViewerWindow::toggleFullScreen()
     setWindowState(windowState() ^ Qt::WindowFullScreen); // keeps whether it was maximised
 }
 
-/// Nothing but the page is shown on a full screen, whoever asked for it; the keys go on working.
 void ViewerWindow::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::WindowStateChange) {
-        menuBar()->setVisible(!isFullScreen());
-        m_status->setVisible(!isFullScreen());
+        updateBars();
         m_menu->markFullScreen(isFullScreen());
     }
     QMainWindow::changeEvent(event);
+}
+
+/// Nothing but the page is shown on a full screen, whoever asked for it, and messages while there
+/// are any; the keys go on working.
+void ViewerWindow::updateBars()
+{
+    menuBar()->setVisible(!isFullScreen());
+    m_status->setVisible(!isFullScreen() || !m_status->currentMessage().isEmpty());
 }
 
 void ViewerWindow::showHelp()

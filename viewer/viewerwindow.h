@@ -74,7 +74,8 @@ public Q_SLOTS:
     void showNext();
     void showPrevious();
 
-    /// Opens the file once more.
+    /// Opens the file once more, or looks at the folder of the gallery once more. View, palette,
+    /// peaks and wavelengths stay, regions of interest do not.
     void reload();
 
     void openRecentFile(int index);
@@ -109,6 +110,10 @@ private:
     void createPages();
     void createMenu();
     void createIntensityWidget();
+    void openSoon(const QString& path);
+    void followFile();
+    void reloadImage();
+    void updateBars();
     void showPage(QWidget* page);
     void updateMenu();
     void showWelcome();
@@ -118,6 +123,8 @@ private:
     void showNeighbour(int step, const QString& lackOfOne);
     void rememberFile(const QString& path);
     void storeSession();
+    void readRecentFiles();
+    void storeRecentFiles();
     void nameFile(const QString& path);
     void nameWindow(const QString& shown, const QString& status);
 
@@ -135,4 +142,5 @@ private:
     std::unique_ptr<QSettings> m_settings; // null: nothing is remembered
     QString m_folder; // of the file last opened, or the one of the gallery; empty before any
     QString m_file; // last opened; absolute
+    QString m_pictureFolder; // where a screenshot was saved; empty before any
 };

@@ -13,6 +13,8 @@ private Q_SLOTS:
     void init();
     void tells_ofAFileWrittenAnew();
     void tells_onceOfManyWrites();
+    void tells_amidChangesOfOtherFiles();
+    void tells_nowAndThenOfAFileWithoutRest();
     void tells_ofAFileInItsPlace();
     void tells_ofAFileThatComesBack();
     void tells_ofTheSecondChangeToo();
@@ -70,6 +72,35 @@ void TestFileWatch::tells_onceOfManyWrites()
     QCOMPARE(changes.size(), 0);
     QVERIFY(changes.wait(longEnough));
     QTest::qWait(quiet);
+    QCOMPARE(changes.size(), 1);
+}
+
+/// A camera that writes a sequence into the folder.
+void TestFileWatch::tells_amidChangesOfOtherFiles()
+{
+    FileWatch watch;
+    QSignalSpy changes(&watch, &FileWatch::changed);
+    watch.watch(path("a.raw"));
+    write("a.raw", "second one");
+    for (int i = 0; i < 12 && changes.isEmpty(); ++i) { // far more often than a rest
+        QTest::qWait(FileWatch::restMilliseconds / 4);
+        write(QString("frame %1.raw").arg(i), "frame");
+    }
+    QCOMPARE(changes.size(), 1);
+}
+
+void TestFileWatch::tells_nowAndThenOfAFileWithoutRest()
+{
+    FileWatch watch;
+    QSignalSpy changes(&watch, &FileWatch::changed);
+    watch.watch(path("a.raw"));
+    QElapsedTimer clock;
+    clock.start();
+    for (int i = 0; changes.isEmpty() && !clock.hasExpired(longEnough + quiet); ++i) {
+        write("a.raw", QByteArray(i + 10, 'x'));
+        QTest::qWait(FileWatch::restMilliseconds / 4);
+    }
+    QVERIFY(clock.elapsed() >= FileWatch::longestMilliseconds);
     QCOMPARE(changes.size(), 1);
 }
 

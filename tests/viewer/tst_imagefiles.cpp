@@ -35,6 +35,7 @@ private Q_SLOTS:
     void neighbours();
     void neighbours_ofAFileThatIsGone();
     void neighbours_withoutAFolder();
+    void mayBeImage_looksAtTheOutside();
     void depth_data();
     void depth();
     void summary_data();
@@ -88,6 +89,9 @@ void TestImageFiles::initTestCase()
     write("deep.tif",
         tiffFile(
             { { 256, tiffShort, 1, 300 }, { 257, tiffShort, 1, 200 }, { 258, tiffShort, 1, 16 } }));
+    write("twelve.tif",
+        tiffFile(
+            { { 256, tiffShort, 1, 300 }, { 257, tiffShort, 1, 200 }, { 258, tiffShort, 1, 12 } }));
     write("real.tif", tiffFile({ { 256, tiffShort, 1, 300 }, { 257, tiffShort, 1, 200 } }));
 }
 
@@ -306,6 +310,18 @@ void TestImageFiles::neighbours_withoutAFolder()
     QVERIFY(neighbourInFolder("/no such folder/a.png", -1).isEmpty());
 }
 
+void TestImageFiles::mayBeImage_looksAtTheOutside()
+{
+    for (const char* name : { "good.raw", "real.png", "text.png", "fake.raw", "empty.raw" }) {
+        QVERIFY2(mayBeImage(path(name)), name); // what is inside only the load can tell
+    }
+    for (const char* name : { "gone.png", "folder.png", "nothing.bmp", "huge.raw" }) {
+        QVERIFY2(!mayBeImage(path(name)), name);
+    }
+    write("film.mkv", "not an image");
+    QVERIFY(!mayBeImage(path("film.mkv")));
+}
+
 void TestImageFiles::depth_data()
 {
     QTest::addColumn<QString>("name");
@@ -317,6 +333,7 @@ void TestImageFiles::depth_data()
     QTest::newRow("PNG, 1 bit") << "flat.png" << 8;
     QTest::newRow("TIFF, no depth given") << "real.tif" << 8;
     QTest::newRow("TIFF, 16 bit") << "deep.tif" << 16;
+    QTest::newRow("TIFF, 12 bit") << "twelve.tif" << 16; // as the pixels are held
     QTest::newRow("BMP") << "real.bmp" << 8;
     QTest::newRow("empty") << "nothing.bmp" << 0;
     QTest::newRow("missing") << "gone.png" << 0;

@@ -11,7 +11,7 @@ class TestReadAhead : public QObject
 
 private Q_SLOTS:
     void reportsEveryStepOnce();
-    void saysNothingOfSmallFiles();
+    void saysNothingOfSmallAndOfHugeFiles();
     void saysNothingOfWhatIsNoFile();
 
 private:
@@ -50,11 +50,12 @@ void TestReadAhead::reportsEveryStepOnce()
     QCOMPARE(odd.last(), 100);
 }
 
-void TestReadAhead::saysNothingOfSmallFiles()
+void TestReadAhead::saysNothingOfSmallAndOfHugeFiles()
 {
     QVERIFY(reportOf(file(0)).isEmpty());
     QVERIFY(reportOf(file(smallFileSize)).isEmpty());
     QVERIFY(!reportOf(file(smallFileSize + 1)).isEmpty());
+    QVERIFY(reportOf(file(largestImageFileSize + 1)).isEmpty()); // nor of a film
 }
 
 void TestReadAhead::saysNothingOfWhatIsNoFile()

@@ -12,6 +12,7 @@
 #include <QFileDialog>
 #include <QGraphicsView>
 #include <QLineEdit>
+#include <QListView>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -71,6 +72,7 @@ private Q_SLOTS:
     void nextAndPrevious_fromAProblem();
     void pageKeys_belongToTheGallery();
     void reload();
+    void reload_keepsTheControls();
     void saveScreenshot();
     void saveScreenshot_thatCannotBeWritten();
     void close();
@@ -183,11 +185,10 @@ void TestViewerMenu::availability_followsThePage()
         QVERIFY2(!enabled(name), name);
     }
     m_viewer->window->showGallery(m_viewer->folder.path());
-    for (const char* name :
-        { "actionNext", "actionPrevious", "actionReload", "actionCopyCanvas" }) {
+    for (const char* name : { "actionNext", "actionPrevious", "actionCopyCanvas" }) {
         QVERIFY2(!enabled(name), name);
     }
-    QVERIFY(enabled("actionCopyWindow"));
+    QVERIFY(enabled("actionCopyWindow") && enabled("actionReload"));
 }
 
 void TestViewerMenu::everyEntry_byMouse_data()
@@ -229,20 +230,27 @@ void TestViewerMenu::open()
 {
     chooseName(m_viewer->path("frame 1.raw"));
     press("Ctrl+O");
-    QCOMPARE(m_viewer->shownFile(), QString("frame 1.raw"));
+    QTRY_COMPARE(m_viewer->shownFile(), QString("frame 1.raw"));
 }
 
 void TestViewerMenu::openFolder()
 {
-    const Closer closer;
+    QTemporaryDir other;
+    chooseName(other.path());
     press("Ctrl+Shift+O");
-    QCOMPARE(closer.titles, QStringList("Open Folder"));
+    QTRY_VERIFY(qobject_cast<GalleryPage*>(m_viewer->page()));
+    QCOMPARE(qobject_cast<GalleryPage*>(m_viewer->page())->folder(), other.path());
 }
 
 void TestViewerMenu::gallery()
 {
     press("Ctrl+G");
-    QVERIFY(qobject_cast<GalleryPage*>(m_viewer->page()));
+    auto* gallery = qobject_cast<GalleryPage*>(m_viewer->page());
+    QVERIFY(gallery);
+    QCOMPARE(gallery->findChild<QListView*>()->model()->rowCount(), 3);
+    m_viewer->writeFrame("frame 11.raw", 64);
+    press("F5"); // looks at the folder once more
+    QCOMPARE(gallery->findChild<QListView*>()->model()->rowCount(), 4);
 }
 
 void TestViewerMenu::nextAndPrevious()
@@ -254,6 +262,7 @@ void TestViewerMenu::nextAndPrevious()
     QCOMPARE(m_viewer->window->statusBar()->currentMessage(),
         QString("This is the last image of the folder."));
     press("PgUp");
+    QVERIFY(m_viewer->window->statusBar()->currentMessage().isEmpty()); // is about another image
     press("PgUp");
     QCOMPARE(m_viewer->shownFile(), QString("frame 1.raw"));
     press("PgUp");
@@ -284,6 +293,33 @@ void TestViewerMenu::reload()
     m_viewer->writeFrame("frame 2.raw", 80);
     press("F5");
     QCOMPARE(m_viewer->status("statusImageSize"), QString::fromUtf8("80 × 48 pixels   16 bit"));
+}
+
+void TestViewerMenu::reload_keepsTheControls()
+{
+    press("Alt+2");
+    press("Ctrl+3");
+    auto* peaks = m_viewer->control<QAbstractButton>("checkBoxPeak");
+    QTest::mouseClick(peaks, Qt::LeftButton, Qt::NoModifier, QPoint(8, peaks->height() / 2));
+    QTest::keyClick(m_viewer->control<QComboBox>("comboBoxType"), Qt::Key_Down);
+    auto* start = m_viewer->control<QLineEdit>("lineEditXStart");
+    start->selectAll();
+    QTest::keyClicks(start, "300");
+    QTest::mouseClick(m_viewer->control<QAbstractButton>("pushButtonApply"), Qt::LeftButton);
+    QWidget* focused = m_viewer->window->focusWidget();
+    auto* canvas = m_viewer->intensity()->findChild<QGraphicsView*>();
+    const QImage before = canvas->grab().toImage();
+    QSignalSpy red(m_viewer->control<QPushButton>("pushButtonRed"), &QPushButton::clicked);
+    press("F5");
+    QCOMPARE(canvas->grab().toImage(), before);
+    QCOMPARE(red.size(), 1); // the palette of the image behind the chart
+    QVERIFY(peaks->isChecked());
+    QCOMPARE(start->text(), QString("300"));
+    QCOMPARE(m_viewer->window->focusWidget(), focused);
+    press("PgDown"); // another image starts afresh
+    QVERIFY(m_viewer->control<QRadioButton>("radioButtonImage")->isChecked());
+    press("F5");
+    QCOMPARE(red.size(), 1);
 }
 
 void TestViewerMenu::saveScreenshot()
@@ -414,7 +450,7 @@ void TestViewerMenu::views_markWhatThePanelShows()
     QVERIFY(marked("actionRowChart"));
     QTest::keyClick(m_viewer->control<QComboBox>("comboBoxDisplay"), Qt::Key_Down);
     QVERIFY(marked("actionColumnChart") && !marked("actionRowChart"));
-    press("F5"); // a load goes back to the image
+    press("PgDown"); // another image
     QVERIFY(marked("actionImageView"));
 }
 
@@ -448,6 +484,10 @@ void TestViewerMenu::fullScreen()
     QVERIFY(!window->menuBar()->isVisible() && !window->statusBar()->isVisible());
     press("PgDown"); // keys work without their menu
     QCOMPARE(m_viewer->shownFile(), QString("frame 10.raw"));
+    press("PgDown");
+    QVERIFY(window->statusBar()->isVisible()); // while it says that this was the last one
+    window->statusBar()->clearMessage();
+    QVERIFY(!window->statusBar()->isVisible());
     press("Esc");
     QVERIFY(!window->isFullScreen());
     QVERIFY(window->menuBar()->isVisible() && window->statusBar()->isVisible());
@@ -470,9 +510,8 @@ void TestViewerMenu::help()
     QCOMPARE(overlay->size(), m_viewer->window->size());
     QTest::keyClick(overlay, Qt::Key_Shift);
     QVERIFY(overlay->isVisible()); // half a key
-    QTest::keyClick(overlay, Qt::Key_PageDown);
-    QVERIFY(!overlay->isVisible());
-    QCOMPARE(m_viewer->shownFile(), QString("frame 2.raw")); // the key only closed the help
+    QTest::keyClick(overlay, Qt::Key_F11);
+    QVERIFY(!overlay->isVisible() && !m_viewer->window->isFullScreen()); // only closes the help
     press("F1");
     QTest::mouseClick(overlay, Qt::LeftButton);
     QVERIFY(!overlay->isVisible());
@@ -514,7 +553,7 @@ void TestViewerMenu::help_listsEveryKey()
     }
     for (const QAction* action : m_viewer->window->findChildren<QAction*>()) {
         const QString key = action->shortcut().toString(QKeySequence::NativeText);
-        QVERIFY2(key.isEmpty() || key == "Esc" || listed.contains(key), qPrintable(key));
+        QVERIFY2(key.isEmpty() || listed.contains(key), qPrintable(key));
     }
     QStringList effects;
     for (const QLabel* label : m_viewer->window->findChildren<QLabel*>("helpEffect")) {

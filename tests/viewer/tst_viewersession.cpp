@@ -26,13 +26,16 @@ private Q_SLOTS:
 
     void recent_listsOpenedFiles();
     void recent_opensAFile();
-    void recent_forgetsAFileThatCannotBeShown();
+    void recent_forgetsAFileThatIsGone();
+    void recent_keepsAFileWhoseFolderIsAway();
+    void recent_ofTwoWindows();
     void recent_isCleared();
     void session_isKept();
     void session_endedOnTheFullScreen();
     void session_ofTheFirstStart();
     void session_isNotTouchedWithoutSettings();
     void watch_reloadsAChangedFile();
+    void watch_leavesRegionsAlone();
     void watch_mendsAProblem();
     void watch_leavesTheGalleryAlone();
     void load_showsProgressAndWaits();
@@ -104,18 +107,42 @@ void TestViewerSession::recent_opensAFile()
     menu->popup(QPoint());
     QAction* second = menu->actions().at(1);
     QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(second).center());
-    QCOMPARE(m_viewer->shownFile(), QString("frame 1.raw"));
+    QTRY_COMPARE(m_viewer->shownFile(), QString("frame 1.raw"));
     QCOMPARE(recentTexts(), (QStringList { "&1  frame 1.raw", "&2  frame 2.raw" }));
 }
 
-void TestViewerSession::recent_forgetsAFileThatCannotBeShown()
+void TestViewerSession::recent_forgetsAFileThatIsGone()
 {
     QVERIFY(m_viewer->window->openFile(m_viewer->path("frame 1.raw")));
     QVERIFY(m_viewer->window->openFile(m_viewer->path("frame 2.raw")));
     QVERIFY(QFile::remove(m_viewer->path("frame 1.raw")));
     m_viewer->window->findChild<QMenu*>("menuRecent")->actions().at(1)->trigger();
-    QVERIFY(!m_viewer->window->problem().isEmpty());
+    QTRY_VERIFY(!m_viewer->window->problem().isEmpty());
     QCOMPARE(recentTexts(), QStringList("&1  frame 2.raw"));
+}
+
+void TestViewerSession::recent_keepsAFileWhoseFolderIsAway()
+{
+    QVERIFY(QDir(m_viewer->folder.path()).mkdir("drive"));
+    m_viewer->writeFrame("drive/far.raw", 64);
+    QVERIFY(m_viewer->window->openFile(m_viewer->path("drive/far.raw")));
+    QVERIFY(QDir(m_viewer->path("drive")).removeRecursively());
+    m_viewer->window->findChild<QMenu*>("menuRecent")->actions().first()->trigger();
+    QTRY_VERIFY(!m_viewer->window->problem().isEmpty());
+    QCOMPARE(recentTexts(), QStringList("&1  far.raw"));
+}
+
+void TestViewerSession::recent_ofTwoWindows()
+{
+    QVERIFY(!m_viewer->window->restoreSession(settings()));
+    ViewerWindow other;
+    other.restoreSession(settings());
+    QVERIFY(other.openFile(m_viewer->path("frame 1.raw")));
+    QVERIFY(m_viewer->window->openFile(m_viewer->path("frame 2.raw")));
+    QCOMPARE(recentTexts(), (QStringList { "&1  frame 2.raw", "&2  frame 1.raw" }));
+    other.close();
+    QCOMPARE(settings()->value("files/recent").toStringList(),
+        (QStringList { m_viewer->path("frame 2.raw"), m_viewer->path("frame 1.raw") }));
 }
 
 void TestViewerSession::recent_isCleared()
@@ -175,6 +202,20 @@ void TestViewerSession::watch_reloadsAChangedFile()
         m_viewer->status("statusImageSize"), QString::fromUtf8("100 × 48 pixels   16 bit"));
     m_viewer->writeFrame("frame 1.raw", 90); // and once more
     QTRY_COMPARE(m_viewer->status("statusImageSize"), QString::fromUtf8("90 × 48 pixels   16 bit"));
+}
+
+void TestViewerSession::watch_leavesRegionsAlone()
+{
+    QVERIFY(m_viewer->window->openFile(m_viewer->path("frame 1.raw")));
+    QTest::mouseClick(m_viewer->control<QPushButton>("pushButtonAdd"), Qt::LeftButton);
+    m_viewer->writeFrame("frame 1.raw", 100);
+    QTRY_VERIFY(!m_viewer->window->statusBar()->currentMessage().isEmpty());
+    QCOMPARE(m_viewer->window->statusBar()->currentMessage(),
+        QString("The file has changed. F5 loads it again, without the regions."));
+    QCOMPARE(m_viewer->status("statusImageSize"), QString::fromUtf8("64 × 48 pixels   16 bit"));
+    QTest::keyClick(m_viewer->window.get(), Qt::Key_F5);
+    QCOMPARE(m_viewer->status("statusImageSize"), QString::fromUtf8("100 × 48 pixels   16 bit"));
+    QVERIFY(m_viewer->window->statusBar()->currentMessage().isEmpty());
 }
 
 void TestViewerSession::watch_mendsAProblem()
@@ -292,10 +333,12 @@ void TestViewerSession::controls_haveAccessibleNames()
     QVERIFY(m_viewer->window->openFile(m_viewer->path("frame 1.raw")));
     for (const QWidget* child : m_viewer->intensity()->findChildren<QWidget*>()) {
         const auto* button = qobject_cast<const QAbstractButton*>(child);
-        if (button && button->text().isEmpty()) {
+        const bool speaksItself = (button && !button->text().isEmpty()) || child->focusProxy();
+        if (child->focusPolicy() != Qt::NoFocus && !speaksItself && child->isVisible()) {
             QVERIFY2(!child->accessibleName().isEmpty(), qPrintable(child->objectName()));
         }
     }
+    QVERIFY(!m_viewer->window->findChild<QWidget*>("galleryView")->accessibleName().isEmpty());
     QCOMPARE(m_viewer->control<QPushButton>("tool_Zoom_In")->accessibleName(), QString("Zoom in"));
     QStringList folds;
     for (const auto* fold : m_viewer->intensity()->findChildren<QPushButton*>("left_flex1")) {

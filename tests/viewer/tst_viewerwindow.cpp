@@ -433,7 +433,7 @@ void TestViewerWindow::dialog_opensTheChosenFile()
     });
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QTest::mouseClick(page()->findChild<QPushButton*>("pageOpenButton"), Qt::LeftButton);
-    QCOMPARE(page(), intensity());
+    QTRY_COMPARE(page(), intensity());
 }
 
 void TestViewerWindow::dialog_opensTheChosenFolder()
@@ -451,7 +451,7 @@ void TestViewerWindow::dialog_opensTheChosenFolder()
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QTest::mouseClick(page()->findChild<QPushButton*>("pageFolderButton"), Qt::LeftButton);
     QVERIFY(onlyFolders);
-    QCOMPARE(gallery()->folder(), m_folder.path());
+    QTRY_COMPARE(gallery()->folder(), m_folder.path());
     QVERIFY(galleryView()->isVisible());
 }
 
