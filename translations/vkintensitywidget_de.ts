@@ -84,11 +84,11 @@
     </message>
     <message>
         <source>Peak Labels</source>
-        <translation>Spitzen beschriften</translation>
+        <translation>Peaks beschriften</translation>
     </message>
     <message>
         <source>Number of peak labels:</source>
-        <translation>Anzahl Spitzen:</translation>
+        <translation>Anzahl Peaks:</translation>
     </message>
     <message>
         <source>10</source>
@@ -163,11 +163,11 @@
     </message>
     <message>
         <source>Display Preferences</source>
-        <translation>Darstellung</translation>
+        <translation>Anzeigeoptionen</translation>
     </message>
     <message>
         <source>Data Histogram</source>
-        <translation>Histogramm der Daten</translation>
+        <translation>Datenhistogramm</translation>
     </message>
 </context>
 <context>

@@ -87,12 +87,12 @@ Zeigt ein Kamerabild mit seinen Intensitätsprofilen, Linealen und seiner Palett
 BILD ist eine Datei jpg, jpeg, tif, tiff, bmp oder png oder eine Rohdatei der Kamera;
 von einem ORDNER werden die Bilder in einer Galerie gezeigt.
 
-  --screenshot DATEI.png  das Fenster als Bild speichern und enden
+  --screenshot DATEI.png  das Fenster als Bild speichern und beenden
   --size BREITExHÖHE      Größe dieses Bildes in Pixeln
   --view image|x|y        das Bild, oder seine Zeile oder Spalte als Diagramm zeigen
-  --peaks N               die N stärksten Spitzen des Diagramms beschriften, 1 bis 200
+  --peaks N               die N stärksten Peaks des Diagramms beschriften, 1 bis 200
   --palette NAME          gray, red, green, blue oder color
-  --roi X,Y,BREITE,HÖHE   einen Bereich markieren, in Pixeln von links oben; mehrfach
+  --roi X,Y,BREITE,HÖHE   eine ROI markieren, in Pixeln von links oben; mehrfach
                           möglich; gibt aus, was auf dem Schirm daraus wurde
   --wavelength START,BREITE[,EINHEIT]
                           die Achse in Wellenlängen beschriften: die des ersten Pixels,
@@ -119,11 +119,11 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
     </message>
     <message>
         <source>the canvas takes no region</source>
-        <translation>die Zeichenfläche nimmt keinen Bereich an</translation>
+        <translation>die Zeichenfläche nimmt keine ROI an</translation>
     </message>
     <message>
         <source>the panel does not tell where the region is</source>
-        <translation>die Leiste sagt nicht, wo der Bereich liegt</translation>
+        <translation>die Leiste sagt nicht, wo die ROI liegt</translation>
     </message>
     <message>
         <source>%1: x %2, y %3 (from the top %4 to %5)</source>
@@ -175,6 +175,14 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
         <source>It is missing, or you have no permission to read it.</source>
         <translation>Es gibt ihn nicht, oder Sie dürfen ihn nicht lesen.</translation>
     </message>
+    <message>
+        <source>Progress of the small pictures</source>
+        <translation>Fortschritt der kleinen Bilder</translation>
+    </message>
+    <message>
+        <source>Images of the folder</source>
+        <translation>Bilder des Ordners</translation>
+    </message>
 </context>
 <context>
     <name>HelpOverlay</name>
@@ -204,7 +212,7 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
     </message>
     <message>
         <source>Drag a region</source>
-        <translation>Bereich ziehen</translation>
+        <translation>ROI ziehen</translation>
     </message>
     <message>
         <source>Move the region of interest</source>
@@ -258,6 +266,14 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
         <source>Any key or a click closes this.</source>
         <translation>Eine Taste oder ein Klick schließt die Hilfe.</translation>
     </message>
+    <message>
+        <source>Double click in the gallery</source>
+        <translation>Doppelklick in der Galerie</translation>
+    </message>
+    <message>
+        <source>Open the image</source>
+        <translation>Bild öffnen</translation>
+    </message>
 </context>
 <context>
     <name>ImageControls</name>
@@ -267,7 +283,7 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
     </message>
     <message>
         <source>Fold the display preferences</source>
-        <translation>Darstellung einklappen</translation>
+        <translation>Anzeigeoptionen einklappen</translation>
     </message>
     <message>
         <source>Axis of the chart</source>
@@ -275,7 +291,7 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
     </message>
     <message>
         <source>Number of peak labels</source>
-        <translation>Anzahl beschrifteter Spitzen</translation>
+        <translation>Anzahl beschrifteter Peaks</translation>
     </message>
     <message>
         <source>Gray palette</source>
@@ -319,15 +335,15 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
     </message>
     <message>
         <source>Region of interest</source>
-        <translation>Interessierender Bereich</translation>
+        <translation>ROI</translation>
     </message>
     <message>
         <source>Add a region of interest</source>
-        <translation>Bereich hinzufügen</translation>
+        <translation>ROI hinzufügen</translation>
     </message>
     <message>
         <source>Delete the region of interest</source>
-        <translation>Bereich löschen</translation>
+        <translation>ROI löschen</translation>
     </message>
     <message>
         <source>Zoom in</source>
@@ -340,6 +356,10 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
     <message>
         <source>Image</source>
         <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>Leiste</translation>
     </message>
 </context>
 <context>
@@ -439,7 +459,7 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
     </message>
     <message>
         <source>the region %1,%2,%3,%4 does not lie inside the image of %5x%6 pixels</source>
-        <translation>der Bereich %1,%2,%3,%4 liegt nicht im Bild von %5x%6 Pixeln</translation>
+        <translation>die ROI %1,%2,%3,%4 liegt nicht im Bild von %5x%6 Pixeln</translation>
     </message>
     <message>
         <source>%1: only an image has controls to set</source>
@@ -615,6 +635,10 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
         <source>&amp;Clear</source>
         <translation>&amp;Leeren</translation>
     </message>
+    <message>
+        <source>Leave the full screen</source>
+        <translation>Vollbild verlassen</translation>
+    </message>
 </context>
 <context>
     <name>ViewerWindow</name>
@@ -636,11 +660,11 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
     </message>
     <message>
         <source>This is the last image of the folder.</source>
-        <translation>Das ist das letzte Bild des Ordners.</translation>
+        <translation>Das ist das letzte Bild im Ordner.</translation>
     </message>
     <message>
         <source>This is the first image of the folder.</source>
-        <translation>Das ist das erste Bild des Ordners.</translation>
+        <translation>Das ist das erste Bild im Ordner.</translation>
     </message>
     <message>
         <source>The window is on the clipboard.</source>
@@ -672,7 +696,11 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
 Shows what is in a camera image: profiles, charts with labelled peaks, regions of interest and their statistics.</source>
         <translation>VKIntensity Viewer %1
 
-Zeigt, was in einem Kamerabild steckt: Profile, Diagramme mit beschrifteten Spitzen, interessierende Bereiche und ihre Statistik.</translation>
+Zeigt, was in einem Kamerabild steckt: Profile, Diagramme mit beschrifteten Peaks, ROIs und ihre Statistik.</translation>
+    </message>
+    <message>
+        <source>The file has changed. F5 loads it again, without the regions.</source>
+        <translation>Die Datei hat sich geändert. F5 lädt sie neu, ohne die ROIs.</translation>
     </message>
 </context>
 <context>

@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>only one image can be opened</source>
-        <translation>只能打开一个图像</translation>
+        <translation>只能打开一幅图像</translation>
     </message>
     <message>
         <source>the name of the image is empty</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>--screenshot needs an image to show</source>
-        <translation>--screenshot 需要一个图像</translation>
+        <translation>--screenshot 需要一幅图像</translation>
     </message>
     <message>
         <source>--peaks goes with --view x or --view y</source>
@@ -152,11 +152,11 @@ its images are shown in a gallery.
     </message>
     <message>
         <source>1 image</source>
-        <translation>1 个图像</translation>
+        <translation>1 幅图像</translation>
     </message>
     <message>
         <source>%1 images</source>
-        <translation>%1 个图像</translation>
+        <translation>%1 幅图像</translation>
     </message>
     <message>
         <source>No images in this folder</source>
@@ -173,6 +173,14 @@ its images are shown in a gallery.
     <message>
         <source>It is missing, or you have no permission to read it.</source>
         <translation>它不存在，或您没有读取权限。</translation>
+    </message>
+    <message>
+        <source>Progress of the small pictures</source>
+        <translation>缩略图进度</translation>
+    </message>
+    <message>
+        <source>Images of the folder</source>
+        <translation>文件夹中的图像</translation>
     </message>
 </context>
 <context>
@@ -257,6 +265,14 @@ its images are shown in a gallery.
         <source>Any key or a click closes this.</source>
         <translation>按任意键或单击即可关闭。</translation>
     </message>
+    <message>
+        <source>Double click in the gallery</source>
+        <translation>在图库中双击</translation>
+    </message>
+    <message>
+        <source>Open the image</source>
+        <translation>打开图像</translation>
+    </message>
 </context>
 <context>
     <name>ImageControls</name>
@@ -339,6 +355,10 @@ its images are shown in a gallery.
     <message>
         <source>Image</source>
         <translation>图像</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>面板</translation>
     </message>
 </context>
 <context>
@@ -492,11 +512,11 @@ its images are shown in a gallery.
     </message>
     <message>
         <source>&amp;Next Image</source>
-        <translation>下一个图像(&amp;N)</translation>
+        <translation>下一幅图像(&amp;N)</translation>
     </message>
     <message>
         <source>&amp;Previous Image</source>
-        <translation>上一个图像(&amp;P)</translation>
+        <translation>上一幅图像(&amp;P)</translation>
     </message>
     <message>
         <source>Re&amp;load</source>
@@ -614,6 +634,10 @@ its images are shown in a gallery.
         <source>&amp;Clear</source>
         <translation>清除(&amp;C)</translation>
     </message>
+    <message>
+        <source>Leave the full screen</source>
+        <translation>退出全屏</translation>
+    </message>
 </context>
 <context>
     <name>ViewerWindow</name>
@@ -635,11 +659,11 @@ its images are shown in a gallery.
     </message>
     <message>
         <source>This is the last image of the folder.</source>
-        <translation>这是文件夹中的最后一个图像。</translation>
+        <translation>这是文件夹中的最后一幅图像。</translation>
     </message>
     <message>
         <source>This is the first image of the folder.</source>
-        <translation>这是文件夹中的第一个图像。</translation>
+        <translation>这是文件夹中的第一幅图像。</translation>
     </message>
     <message>
         <source>The window is on the clipboard.</source>
@@ -672,6 +696,10 @@ Shows what is in a camera image: profiles, charts with labelled peaks, regions o
         <translation>VKIntensity Viewer %1
 
 显示相机图像的内容：剖面、带峰值标注的图表、感兴趣区域及其统计数据。</translation>
+    </message>
+    <message>
+        <source>The file has changed. F5 loads it again, without the regions.</source>
+        <translation>文件已更改。按 F5 重新加载（不保留区域）。</translation>
     </message>
 </context>
 <context>

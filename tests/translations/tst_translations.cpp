@@ -85,6 +85,7 @@ private Q_SLOTS:
     void panel_fitsTheColumn_data();
     void panel_fitsTheColumn();
     void readout_isTranslated();
+    void window_speaksTheLanguage_data();
     void window_speaksTheLanguage();
     void menus_haveDifferentAccessKeys_data();
     void menus_haveDifferentAccessKeys();
@@ -135,10 +136,10 @@ void TestTranslations::panel_speaksTheLanguage_data()
                                     "Standard Deviation", "None Select", "Wavelength", "um",
                                     "Display Preferences", "Zoom In" };
     QTest::newRow("German") << "de_DE"
-                            << QStringList { "Palette", "Histogramm", "Bild", "Spitzen beschriften",
+                            << QStringList { "Palette", "Histogramm", "Bild", "Peaks beschriften",
                                    "Standardabw.", "Keine Auswahl",
                                    QString::fromUtf8("Wellenlänge"), QString::fromUtf8("µm"),
-                                   "Darstellung", QString::fromUtf8("Vergrößern") };
+                                   "Anzeigeoptionen", QString::fromUtf8("Vergrößern") };
     QTest::newRow("Simplified Chinese")
         << "zh_CN"
         << QStringList { QString::fromUtf8("调色板"), QString::fromUtf8("直方图"),
@@ -211,22 +212,39 @@ void TestTranslations::readout_isTranslated()
     QCOMPARE(QCoreApplication::translate("CVKDataHistogram", "%1 to %2"), QString("%1 bis %2"));
 }
 
+void TestTranslations::window_speaksTheLanguage_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QStringList>("menus");
+    QTest::addColumn<QString>("status");
+    QTest::addColumn<QString>("help"); // one line of it, without its access key
+    QTest::newRow("German") << "de_DE"
+                            << QStringList { "&Datei", "&Bearbeiten", "&Ansicht", "&Hilfe" }
+                            << "Kein Bild" << QString::fromUtf8("Ordner öffnen");
+    QTest::newRow("Simplified Chinese")
+        << "zh_CN"
+        << QStringList { QString::fromUtf8("文件(&F)"), QString::fromUtf8("编辑(&E)"),
+               QString::fromUtf8("视图(&V)"), QString::fromUtf8("帮助(&H)") }
+        << QString::fromUtf8("没有图像") << QString::fromUtf8("打开文件夹");
+}
+
 void TestTranslations::window_speaksTheLanguage()
 {
-    QVERIFY(installLanguage(qApp, QLocale("de_DE")));
+    QFETCH(QString, locale);
+    QVERIFY(installLanguage(qApp, QLocale(locale)));
     const ViewerWindow window;
     QStringList menus;
     for (const QAction* action : window.menuBar()->actions()) {
         menus << action->text();
     }
-    QCOMPARE(menus, (QStringList { "&Datei", "&Bearbeiten", "&Ansicht", "&Hilfe" }));
-    QCOMPARE(window.findChild<QLabel*>("statusFileName")->text(), QString("Kein Bild"));
+    QTEST(menus, "menus");
+    QTEST(window.findChild<QLabel*>("statusFileName")->text(), "status");
     QStringList effects;
     for (const QLabel* label : window.findChildren<QLabel*>("helpEffect")) {
         effects << label->text();
     }
-    QVERIFY(effects.contains(QString::fromUtf8("Größe der ROI ändern")));
-    QVERIFY(effects.contains("Ordner " + QString::fromUtf8("öffnen"))); // without its access key
+    QFETCH(QString, help);
+    QVERIFY(effects.contains(help));
 }
 
 void TestTranslations::menus_haveDifferentAccessKeys_data()
@@ -258,6 +276,9 @@ void TestTranslations::language_followsTheLocale()
 {
     QVERIFY(installLanguage(qApp, QLocale("de_AT"))); // German as in Germany
     removeTranslators();
+    QVERIFY(installLanguage(qApp, QLocale("zh_SG"))); // written as in China
+    removeTranslators();
+    QVERIFY(!installLanguage(qApp, QLocale("zh_TW"))); // not so here
     for (const char* locale : { "C", "en_US", "fr_FR" }) {
         QVERIFY2(!installLanguage(qApp, QLocale(locale)), locale);
         QVERIFY(qApp->findChildren<QTranslator*>().isEmpty());

@@ -1,5 +1,6 @@
 # Lets lupdate take over new texts into copies of the translation files; there must be none.
 file(REMOVE_RECURSE "${WORK_DIR}")
+string(REPLACE "," ";" LANGUAGES "${LANGUAGES}")
 foreach(language IN LISTS LANGUAGES)
     foreach(part vkintensitywidget vkviewer)
         if(part STREQUAL vkviewer)
