@@ -16,14 +16,15 @@ QString CVKIntensityWidgetPlugin::group() const
 
 QString CVKIntensityWidgetPlugin::toolTip() const
 {
-    return tr("Image with its intensity profiles, rulers and regions of interest");
+    return QStringLiteral("Image with its intensity profiles, rulers and regions of interest");
 }
 
 QString CVKIntensityWidgetPlugin::whatsThis() const
 {
-    return tr("Shows one camera image with its intensity profiles, rulers and regions of interest, "
-              "and a panel with their statistics and histogram. The application calls loadImage() "
-              "and provides skins and palettes.");
+    return QStringLiteral(
+        "Shows one camera image with its intensity profiles, rulers and regions of interest, "
+        "and a panel with their statistics and histogram. The application calls loadImage() "
+        "and provides skins and palettes.");
 }
 
 QString CVKIntensityWidgetPlugin::includeFile() const

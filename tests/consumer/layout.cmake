@@ -21,6 +21,14 @@ cmake_path(GET program PARENT_PATH program_dir)
 file(GLOB palettes RELATIVE "${program_dir}" "${program_dir}/pal/*")
 expect_content("Palettes" "${palettes}" pal/blue.pal pal/color.pal pal/green.pal pal/red.pal)
 
+if(LANGUAGES)
+    file(GLOB translations RELATIVE "${PREFIX}/share/vkintensitywidget/translations"
+        "${PREFIX}/share/vkintensitywidget/translations/*")
+    string(REPLACE "," ";" LANGUAGES "${LANGUAGES}")
+    list(TRANSFORM LANGUAGES REPLACE "(.+)" "vkintensitywidget_\\1.qm" OUTPUT_VARIABLE expected)
+    expect_content("Translations" "${translations}" ${expected})
+endif()
+
 set(application org.vkintensity.VKViewer)
 file(GLOB_RECURSE shared RELATIVE "${PREFIX}/share" "${PREFIX}/share/${application}*")
 expect_content("Desktop files" "${shared}"
