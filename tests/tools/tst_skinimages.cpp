@@ -1,5 +1,7 @@
 #include "skinimages.h"
 
+#include "support/contrast.h"
+
 #include <QtTest>
 
 namespace {
@@ -32,21 +34,6 @@ bool columnsAreAlike(const QImage& image)
         }
     }
     return true;
-}
-
-/// Contrast of two colours after the usual formula for legibility: 1 for equal ones, 21 at most.
-double contrast(const QColor& a, const QColor& b)
-{
-    const auto luminance = [](const QColor& color) {
-        const auto linear = [](double v) {
-            return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
-        };
-        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
-            + 0.0722 * linear(color.blueF());
-    };
-    const double high = std::max(luminance(a), luminance(b));
-    const double low = std::min(luminance(a), luminance(b));
-    return (high + 0.05) / (low + 0.05);
 }
 
 } // namespace
@@ -166,12 +153,12 @@ void TestSkinImages::canvas_letsTheDrawingStandOut()
     const QImage tile = skinImage("mdi_bk.jpg");
     for (int y = 0; y < tile.height(); ++y) {
         for (int x = 0; x < tile.width(); ++x) {
-            QVERIFY(contrast(tile.pixelColor(x, y), Qt::white) > 12.0);
-            QVERIFY(contrast(tile.pixelColor(x, y), QColor(40, 128, 140)) > 3.0);
+            QVERIFY(contrastRatio(tile.pixel(x, y), qRgb(255, 255, 255)) > 12.0);
+            QVERIFY(contrastRatio(tile.pixel(x, y), qRgb(40, 128, 140)) > 3.0);
         }
     }
     const QImage title = skinImage("mod_title_middle.png");
-    QVERIFY(contrast(title.pixelColor(8, 14), QColor(250, 250, 250)) > 7.0);
+    QVERIFY(contrastRatio(title.pixel(8, 14), qRgb(250, 250, 250)) > 7.0);
 }
 
 void TestSkinImages::hoverDiffersFromNormal()

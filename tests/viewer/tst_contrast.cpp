@@ -1,5 +1,6 @@
 #include "gallerypage.h"
 #include "helpoverlay.h"
+#include "support/contrast.h"
 #include "viewerfixture.h"
 
 #include <QAbstractButton>
@@ -18,25 +19,6 @@
 namespace {
 
 constexpr double least = 4.5; // for text of ordinary size, after WCAG 2.1, success criterion 1.4.3
-
-/// Relative luminance of an sRGB colour, 0 for black and 1 for white (WCAG 2.1).
-double luminance(QRgb colour)
-{
-    const auto linear = [](int channel) {
-        const double value = channel / 255.0;
-        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour))
-        + 0.0722 * linear(qBlue(colour));
-}
-
-/// From 1 to 21.
-double contrast(QRgb a, QRgb b)
-{
-    const double lighter = std::max(luminance(a), luminance(b));
-    const double darker = std::min(luminance(a), luminance(b));
-    return (lighter + 0.05) / (darker + 0.05);
-}
 
 /// Contrast of the text in `area`: the colour that covers most of it is the ground, the one that
 /// differs most from it the text. Anti-aliased strokes make the result rather too small.
@@ -59,7 +41,7 @@ double textContrast(const QImage& window, const QRect& area)
     }
     double best = 1.0;
     for (auto colour = counts.cbegin(); colour != counts.cend(); ++colour) {
-        best = std::max(best, contrast(colour.key(), ground));
+        best = std::max(best, contrastRatio(colour.key(), ground));
     }
     return best;
 }
@@ -160,10 +142,10 @@ void TestContrast::checkWindow(int atLeast)
 
 void TestContrast::measure()
 {
-    QCOMPARE(contrast(qRgb(0, 0, 0), qRgb(255, 255, 255)), 21.0);
-    QCOMPARE(contrast(qRgb(9, 9, 9), qRgb(9, 9, 9)), 1.0);
+    QCOMPARE(contrastRatio(qRgb(0, 0, 0), qRgb(255, 255, 255)), 21.0);
+    QCOMPARE(contrastRatio(qRgb(9, 9, 9), qRgb(9, 9, 9)), 1.0);
     // #767676 on white is the well-known limit.
-    QVERIFY(std::abs(contrast(qRgb(0x76, 0x76, 0x76), qRgb(255, 255, 255)) - 4.54) < 0.01);
+    QVERIFY(std::abs(contrastRatio(qRgb(0x76, 0x76, 0x76), qRgb(255, 255, 255)) - 4.54) < 0.01);
     QImage text(20, 10, QImage::Format_RGB32);
     text.fill(qRgb(255, 255, 255));
     text.setPixel(3, 3, qRgb(0x76, 0x76, 0x76));
@@ -267,7 +249,7 @@ void TestContrast::canvas()
     QVERIFY(!background.isNull());
     for (int y = 0; y < background.height(); ++y) {
         for (int x = 0; x < background.width(); ++x) {
-            QVERIFY(contrast(background.pixel(x, y), qRgb(255, 255, 255)) >= least);
+            QVERIFY(contrastRatio(background.pixel(x, y), qRgb(255, 255, 255)) >= least);
         }
     }
 }
