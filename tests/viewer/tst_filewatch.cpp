@@ -5,6 +5,30 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <algorithm>
+
+namespace {
+
+/// Waits between writes. A busy machine can make such a pause as long as a rest.
+class Pauses
+{
+public:
+    void wait(int milliseconds)
+    {
+        QElapsedTimer clock;
+        clock.start();
+        QTest::qWait(milliseconds);
+        m_longest = std::max(m_longest, clock.elapsed());
+    }
+
+    bool isDisturbed() const { return m_longest >= FileWatch::restMilliseconds; }
+
+private:
+    qint64 m_longest = 0;
+};
+
+} // namespace
+
 class TestFileWatch : public QObject
 {
     Q_OBJECT
@@ -64,15 +88,16 @@ void TestFileWatch::tells_onceOfManyWrites()
     watch.watch(path("a.raw"));
     QFile file(path("a.raw"));
     QVERIFY(file.open(QIODevice::Append));
+    Pauses pauses;
     for (int i = 0; i < 8; ++i) { // together longer than a rest
         file.write("more");
         file.flush();
-        QTest::qWait(FileWatch::restMilliseconds / 4);
+        pauses.wait(FileWatch::restMilliseconds / 4);
     }
-    QCOMPARE(changes.size(), 0);
-    QVERIFY(changes.wait(longEnough));
+    QVERIFY(changes.isEmpty() || pauses.isDisturbed());
+    QTRY_VERIFY_WITH_TIMEOUT(!changes.isEmpty(), longEnough);
     QTest::qWait(quiet);
-    QCOMPARE(changes.size(), 1);
+    QVERIFY(changes.size() == 1 || pauses.isDisturbed());
 }
 
 /// A camera that writes a sequence into the folder.
@@ -96,11 +121,12 @@ void TestFileWatch::tells_nowAndThenOfAFileWithoutRest()
     watch.watch(path("a.raw"));
     QElapsedTimer clock;
     clock.start();
+    Pauses pauses;
     for (int i = 0; changes.isEmpty() && !clock.hasExpired(longEnough + quiet); ++i) {
         write("a.raw", QByteArray(i + 10, 'x'));
-        QTest::qWait(FileWatch::restMilliseconds / 4);
+        pauses.wait(FileWatch::restMilliseconds / 4);
     }
-    QVERIFY(clock.elapsed() >= FileWatch::longestMilliseconds);
+    QVERIFY(clock.elapsed() >= FileWatch::longestMilliseconds || pauses.isDisturbed());
     QCOMPARE(changes.size(), 1);
 }
 

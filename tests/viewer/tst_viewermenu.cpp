@@ -337,12 +337,14 @@ void TestViewerMenu::saveScreenshot_thatCannotBeWritten()
     QVERIFY(QFile::link(m_viewer->path("no such folder/a.png"), m_viewer->path("link.png")));
     chooseName(m_viewer->path("link.png"));
     QStringList titles;
-    QTimer::singleShot(10 * dialogMilliseconds, this, [&titles] {
-        QWidget* message = QApplication::activeModalWidget();
-        QVERIFY(qobject_cast<QMessageBox*>(message));
-        titles << message->windowTitle();
-        message->close();
+    QTimer closer; // of the message behind the dialog
+    connect(&closer, &QTimer::timeout, this, [&titles] {
+        if (auto* message = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            titles << message->windowTitle();
+            message->close();
+        }
     });
+    closer.start(dialogMilliseconds);
     press("Ctrl+S");
     QCOMPARE(titles, QStringList("Save Screenshot"));
     QVERIFY(m_viewer->window->statusBar()->currentMessage().isEmpty());
