@@ -61,10 +61,10 @@ if(VKINTENSITY_BUILD_VIEWER)
     set(CPACK_DEBIAN_VIEWER_PACKAGE_RECOMMENDS ${qt${QT_VERSION_MAJOR}_translations})
     set(CPACK_DEBIAN_VIEWER_DESCRIPTION [[viewer for the intensity of camera images
 VKIntensity Viewer shows a camera image with the row and the column profile
-through a cross-hair, rulers in pixels or wavelengths, false-colour palettes and the
-exact value of each pixel. Regions of interest come with statistics and
-histogram, charts of a whole row or column with labelled peaks, and folders as
-a gallery.]])
+through a cross-hair, rulers in pixels or wavelengths, false-colour palettes
+and the exact value of each pixel. Regions of interest come with statistics
+and histogram, charts of a whole row or column with labelled peaks, and
+folders as a gallery.]])
     install_documents(viewer vkviewer)
 endif()
 

@@ -68,7 +68,7 @@ IMAGE is a jpg, jpeg, tif, tiff, bmp or png picture or a raw camera file; of a F
 its images are shown in a gallery.
 
   --screenshot FILE.png   save the window as a picture and exit
-  --size WIDTHxHEIGHT     size of that window in pixels
+  --size WIDTHxHEIGHT     size of that window in pixels, else 1280x800 at 96 dpi
   --view image|x|y        show the image, or its row or column as a chart
   --peaks N               label the N strongest peaks of the chart, 1 to 200
   --palette NAME          gray, red, green, blue or color
@@ -88,7 +88,7 @@ BILD ist eine Datei jpg, jpeg, tif, tiff, bmp oder png oder eine Rohdatei der Ka
 von einem ORDNER werden die Bilder in einer Galerie gezeigt.
 
   --screenshot DATEI.png  das Fenster als Bild speichern und beenden
-  --size BREITExHÖHE      Größe dieses Bildes in Pixeln
+  --size BREITExHÖHE      Größe dieses Bildes in Pixeln, sonst 1280x800 bei 96 dpi
   --view image|x|y        das Bild, oder seine Zeile oder Spalte als Diagramm zeigen
   --peaks N               die N stärksten Peaks des Diagramms beschriften, 1 bis 200
   --palette NAME          gray, red, green, blue oder color

@@ -68,7 +68,7 @@ IMAGE is a jpg, jpeg, tif, tiff, bmp or png picture or a raw camera file; of a F
 its images are shown in a gallery.
 
   --screenshot FILE.png   save the window as a picture and exit
-  --size WIDTHxHEIGHT     size of that window in pixels
+  --size WIDTHxHEIGHT     size of that window in pixels, else 1280x800 at 96 dpi
   --view image|x|y        show the image, or its row or column as a chart
   --peaks N               label the N strongest peaks of the chart, 1 to 200
   --palette NAME          gray, red, green, blue or color
@@ -88,7 +88,7 @@ its images are shown in a gallery.
 文件夹中的图像以图库显示。
 
   --screenshot 文件.png   将窗口保存为图片并退出
-  --size 宽x高            图片的大小，以像素计
+  --size 宽x高            图片的大小，以像素计；默认在 96 dpi 下为 1280x800
   --view image|x|y        显示图像，或以图表显示其行或列
   --peaks N               标注图表中最强的 N 个峰，1 到 200
   --palette 名称          gray、red、green、blue 或 color

@@ -191,7 +191,7 @@ QString commandLineHelp()
         "its images are shown in a gallery.\n"
         "\n"
         "  --screenshot FILE.png   save the window as a picture and exit\n"
-        "  --size WIDTHxHEIGHT     size of that window in pixels\n"
+        "  --size WIDTHxHEIGHT     size of that window in pixels, else 1280x800 at 96 dpi\n"
         "  --view image|x|y        show the image, or its row or column as a chart\n"
         "  --peaks N               label the N strongest peaks of the chart, 1 to 200\n"
         "  --palette NAME          gray, red, green, blue or color\n"

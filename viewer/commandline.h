@@ -15,7 +15,7 @@ struct CommandLine
 public:
     QString image; ///< file to open, or folder to show; empty: none
     QString screenshot; ///< file to save the window to; empty: an ordinary session
-    QSize size; ///< window size in pixels; not valid: the default
+    QSize size; ///< window size in pixels; not valid: that of a first start
     ControlSettings controls; ///< of the panel, for a screenshot
     QString error; ///< one line; empty when the arguments make sense
 };

@@ -56,9 +56,13 @@ void quietLog(bool screenshot)
 
 QSize startSize()
 {
-    const QSize wanted(scaledForScreen(1280), scaledForScreen(800));
+    return QSize(scaledForScreen(1280), scaledForScreen(800));
+}
+
+QSize fittingPrimaryScreen(const QSize& size)
+{
     const QScreen* screen = QGuiApplication::primaryScreen();
-    return screen ? wanted.boundedTo(screen->availableSize() * 0.95) : wanted;
+    return screen ? size.boundedTo(screen->availableSize() * 0.95) : size;
 }
 
 /// On a screen of twice the dots everything is drawn twice as large. Only whole factors are taken,
@@ -98,7 +102,7 @@ private:
 
 int runWindow(ViewerWindow* window, const QString& image)
 {
-    window->resize(startSize());
+    window->resize(fittingPrimaryScreen(startSize()));
     window->restoreSession(std::make_unique<QSettings>());
     window->winId(); // makes the handle that tells of the first painting
     if (!image.isEmpty()) {
@@ -150,6 +154,7 @@ int main(int argc, char* argv[])
     if (line.screenshot.isEmpty()) {
         return runWindow(&window, line.image);
     }
+    window.resize(startSize()); // a picture may be larger than the screen
     QStringList report;
     const QString problem = takeScreenshot(&window, line, &report);
     for (const QString& reported : report) {

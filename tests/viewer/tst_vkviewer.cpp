@@ -19,6 +19,8 @@ private Q_SLOTS:
     void version();
     void screenshot_ofEverySample_data();
     void screenshot_ofEverySample();
+    void screenshot_withoutASize_data();
+    void screenshot_withoutASize();
     void screenshot_atOtherResolutions_data();
     void screenshot_atOtherResolutions();
     void screenshot_onDenseScreens_data();
@@ -158,6 +160,25 @@ void TestVkviewer::screenshot_ofEverySample()
     QCOMPARE(window.size(), QSize(1000, 700));
     QVERIFY(canvasColours(window, 290) > 30);
     QVERIFY(QFile::remove(picture));
+}
+
+void TestVkviewer::screenshot_withoutASize_data()
+{
+    QTest::addColumn<QString>("dotsPerInch");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("96") << "96" << QSize(1280, 800);
+    QTest::newRow("144") << "144" << QSize(1920, 1200);
+}
+
+/// Larger than the screen of this platform, which is 800 x 800.
+void TestVkviewer::screenshot_withoutASize()
+{
+    QFETCH(QString, dotsPerInch);
+    const QString picture = path("default.png");
+    QCOMPARE(run({ "--screenshot", picture, sample("lamp-spectrum.raw") },
+                 { { "QT_FONT_DPI", dotsPerInch } }),
+        0);
+    QTEST(QImage(picture).size(), "size");
 }
 
 void TestVkviewer::screenshot_atOtherResolutions_data()
