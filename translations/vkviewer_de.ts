@@ -446,6 +446,14 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
         <source>%1: cannot be written: %2</source>
         <translation>%1: kann nicht geschrieben werden: %2</translation>
     </message>
+    <message>
+        <source>Save Screenshot</source>
+        <translation>Bildschirmfoto speichern</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png)</source>
+        <translation>PNG-Bild (*.png)</translation>
+    </message>
 </context>
 <context>
     <name>Screenshot</name>
@@ -677,10 +685,6 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
     <message>
         <source>Save Screenshot</source>
         <translation>Bildschirmfoto speichern</translation>
-    </message>
-    <message>
-        <source>PNG picture (*.png)</source>
-        <translation>PNG-Bild (*.png)</translation>
     </message>
     <message>
         <source>The screenshot is saved.</source>

@@ -445,6 +445,14 @@ its images are shown in a gallery.
         <source>%1: cannot be written: %2</source>
         <translation>%1：无法写入：%2</translation>
     </message>
+    <message>
+        <source>Save Screenshot</source>
+        <translation>保存截图</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png)</source>
+        <translation>PNG 图片 (*.png)</translation>
+    </message>
 </context>
 <context>
     <name>Screenshot</name>
@@ -676,10 +684,6 @@ its images are shown in a gallery.
     <message>
         <source>Save Screenshot</source>
         <translation>保存截图</translation>
-    </message>
-    <message>
-        <source>PNG picture (*.png)</source>
-        <translation>PNG 图片 (*.png)</translation>
     </message>
     <message>
         <source>The screenshot is saved.</source>

@@ -29,7 +29,6 @@
 #include <QRadioButton>
 #include <QSettings>
 #include <QStackedWidget>
-#include <QStandardPaths>
 #include <QTimer>
 
 namespace {
@@ -45,9 +44,6 @@ public:
 
 constexpr int messageMilliseconds = 4000;
 constexpr int vanishMilliseconds = 30;
-constexpr char geometryKey[] = "window/geometry";
-constexpr char folderKey[] = "files/folder";
-constexpr char recentKey[] = "files/recent";
 
 } // namespace
 
@@ -67,8 +63,6 @@ ViewerWindow::ViewerWindow(QWidget* parent)
     setMinimumSize(scaledForScreen(290) + 350, 480);
     showWelcome();
 }
-
-ViewerWindow::~ViewerWindow() = default;
 
 void ViewerWindow::createMenu()
 {
@@ -145,39 +139,12 @@ void ViewerWindow::createIntensityWidget()
 
 bool ViewerWindow::restoreSession(std::unique_ptr<QSettings> settings)
 {
-    m_settings = std::move(settings);
-    readRecentFiles();
-    m_folder = m_settings->value(folderKey).toString();
+    m_session.open(std::move(settings));
+    m_folder = m_session.folder();
     updateMenu();
-    const bool restored = restoreGeometry(m_settings->value(geometryKey).toByteArray());
+    const bool restored = restoreGeometry(m_session.geometry());
     setWindowState(windowState() & ~Qt::WindowFullScreen); // nobody expects to start without a menu
     return restored;
-}
-
-void ViewerWindow::storeSession()
-{
-    if (m_settings) {
-        m_settings->setValue(geometryKey, saveGeometry());
-        m_settings->setValue(folderKey, m_folder);
-    }
-}
-
-/// Takes over what other windows of the program have stored meanwhile.
-void ViewerWindow::readRecentFiles()
-{
-    if (m_settings) {
-        m_settings->sync();
-        m_recent = RecentFiles(m_settings->value(recentKey).toStringList());
-    }
-}
-
-void ViewerWindow::storeRecentFiles()
-{
-    if (m_settings) {
-        m_settings->setValue(recentKey, m_recent.paths());
-        m_settings->sync();
-    }
-    updateMenu();
 }
 
 void ViewerWindow::showPage(QWidget* page)
@@ -197,9 +164,10 @@ void ViewerWindow::updateMenu()
     m_menu->action(ViewerCommand::Reload)->setEnabled(isFile || page == m_galleryPage);
     m_menu->setZoomAvailable(isImage && view == ImageView::Image);
     m_menu->markView(view);
+    const RecentFiles& files = m_session.recentFiles();
     QStringList recent;
-    for (int i = 0; i < m_recent.paths().size(); ++i) {
-        recent << m_recent.menuText(i);
+    for (int i = 0; i < files.paths().size(); ++i) {
+        recent << files.menuText(i);
     }
     m_menu->setRecentFiles(recent);
 }
@@ -220,7 +188,8 @@ bool ViewerWindow::openFile(const QString& path)
         showProblem(path);
         return false;
     }
-    rememberFile(m_file);
+    m_session.addRecentFile(m_file);
+    updateMenu();
     nameFile(path);
     m_status->showImage(imageSummary(path), clock.elapsed());
     return true;
@@ -257,13 +226,6 @@ void ViewerWindow::showProblem(const QString& path)
     m_problemPage->showProblem(path, loadProblem(path));
     showPage(m_problemPage);
     nameFile(path);
-}
-
-void ViewerWindow::rememberFile(const QString& path)
-{
-    readRecentFiles();
-    m_recent.add(path);
-    storeRecentFiles();
 }
 
 void ViewerWindow::nameFile(const QString& path)
@@ -448,12 +410,11 @@ void ViewerWindow::reloadImage()
 
 void ViewerWindow::openRecentFile(int index)
 {
-    const QString path = m_recent.paths().value(index);
+    const QString path = m_session.recentFiles().paths().value(index);
     const QFileInfo file(path);
     if (!file.exists() && file.dir().exists()) { // else its drive may just be away
-        readRecentFiles();
-        m_recent.remove(path);
-        storeRecentFiles();
+        m_session.removeRecentFile(path);
+        updateMenu();
     }
     if (!path.isEmpty()) {
         openSoon(path);
@@ -462,8 +423,8 @@ void ViewerWindow::openRecentFile(int index)
 
 void ViewerWindow::clearRecentFiles()
 {
-    m_recent.clear();
-    storeRecentFiles();
+    m_session.clearRecentFiles();
+    updateMenu();
 }
 
 void ViewerWindow::copyWindow()
@@ -486,18 +447,11 @@ void ViewerWindow::saveScreenshot()
     const bool isGallery = m_pages->currentWidget() == m_galleryPage;
     const QString shown
         = isGallery ? QDir(m_folder).dirName() : QFileInfo(m_file).completeBaseName();
-    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
-    QFileDialog dialog(this, tr("Save Screenshot"), m_pictureFolder, tr("PNG picture (*.png)"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix("png");
-    if (m_pictureFolder.isEmpty() && QFileInfo(pictures).isDir()) {
-        dialog.setDirectory(pictures); // beside the images it would become one of them
-    }
-    dialog.selectFile(shown.isEmpty() ? "screenshot.png" : shown + "-screenshot.png");
-    if (dialog.exec() != QDialog::Accepted) {
+    const QString path = choosePictureFile(
+        this, m_pictureFolder, shown.isEmpty() ? "screenshot" : shown + "-screenshot");
+    if (path.isEmpty()) {
         return;
     }
-    const QString path = dialog.selectedFiles().value(0);
     const QString problem = savePicture(picture, path);
     if (problem.isEmpty()) {
         m_pictureFolder = QFileInfo(path).absolutePath();
@@ -580,7 +534,7 @@ void ViewerWindow::quit()
 /// Nothing is read any more for a window that nobody sees.
 void ViewerWindow::closeEvent(QCloseEvent* event)
 {
-    storeSession();
+    m_session.store(saveGeometry(), m_folder);
     m_watch.watch(QString());
     m_galleryPage->stopLoading();
     QMainWindow::closeEvent(event);

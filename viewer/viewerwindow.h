@@ -2,7 +2,7 @@
 
 #include "filewatch.h"
 #include "imagecontrols.h"
-#include "recentfiles.h"
+#include "sessionstore.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -28,7 +28,6 @@ class ViewerWindow : public QMainWindow
 
 public:
     explicit ViewerWindow(QWidget* parent = nullptr);
-    ~ViewerWindow() override;
 
     /// Takes place, folder and recent files of the window from `settings` and keeps them there from
     /// now on. Without this nothing is read or stored. False when no place was stored yet.
@@ -121,10 +120,6 @@ private:
     bool loadIntoWidget(const QString& path);
     void showProblem(const QString& path);
     void showNeighbour(int step, const QString& lackOfOne);
-    void rememberFile(const QString& path);
-    void storeSession();
-    void readRecentFiles();
-    void storeRecentFiles();
     void nameFile(const QString& path);
     void nameWindow(const QString& shown, const QString& status);
 
@@ -138,8 +133,7 @@ private:
     HelpOverlay* m_help = nullptr;
     StatusLine* m_status = nullptr;
     FileWatch m_watch; // on the file that is shown
-    RecentFiles m_recent;
-    std::unique_ptr<QSettings> m_settings; // null: nothing is remembered
+    SessionStore m_session;
     QString m_folder; // of the file last opened, or the one of the gallery; empty before any
     QString m_file; // last opened; absolute
     QString m_pictureFolder; // where a screenshot was saved; empty before any
