@@ -31,8 +31,7 @@ QString readPeaks(const QString& value, CommandLine* line)
 QString readPalette(const QString& value, CommandLine* line)
 {
     line->controls.palette = value.toLower();
-    const QStringList palettes { "gray", "red", "green", "blue", "color" };
-    return palettes.contains(line->controls.palette)
+    return paletteNames().contains(line->controls.palette, Qt::CaseInsensitive)
         ? QString()
         : CommandLine::tr("--palette needs gray, red, green, blue or color");
 }

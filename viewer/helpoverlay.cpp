@@ -1,12 +1,12 @@
 #include "helpoverlay.h"
 
 #include "appearance.h"
+#include "plainlabel.h"
 
 #include <QFont>
 #include <QFrame>
 #include <QGridLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QPainter>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -15,14 +15,6 @@
 namespace {
 
 const QColor veil(8, 10, 12, 215);
-
-QLabel* helpLabel(const char* objectName, const QString& text)
-{
-    auto* label = new QLabel(text);
-    label->setObjectName(objectName);
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
 
 /// What the intensity widget does with the mouse.
 QVector<HelpLine> mouseLines()
@@ -74,7 +66,7 @@ HelpOverlay::HelpOverlay(const QVector<HelpLine>& keys, QWidget* window)
     card->setContentsMargins(margin, margin, margin, margin);
     card->setSpacing(scaledForScreen(14));
     card->addWidget(m_scroll);
-    card->addWidget(helpLabel("helpHint", tr("Any key or a click closes this.")));
+    card->addWidget(plainLabel("helpHint", tr("Any key or a click closes this.")));
 
     window->installEventFilter(this);
     hide();
@@ -100,10 +92,10 @@ void HelpOverlay::dismiss()
 void HelpOverlay::addSection(const QString& heading, const QVector<HelpLine>& lines)
 {
     Section section;
-    section.heading = helpLabel("helpHeading", heading);
+    section.heading = plainLabel("helpHeading", heading);
     for (const HelpLine& line : lines) {
-        section.keys << helpLabel("helpKeys", line.keys);
-        section.effects << helpLabel("helpEffect", line.effect);
+        section.keys << plainLabel("helpKeys", line.keys);
+        section.effects << plainLabel("helpEffect", line.effect);
     }
     m_sections << section;
 }

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QGraphicsView>
+#include <QHash>
 #include <QLineEdit>
 #include <QVector>
 
@@ -239,11 +240,6 @@ int ImageControls::regionCount() const
 {
     const auto* regions = control<QComboBox>("comboBoxRoi");
     return regions ? qMax(regions->count() - 1, 0) : 0; // behind "None Select"
-}
-
-QStringList ImageControls::paletteNames()
-{
-    return { "Gray", "Red", "Green", "Blue", "Color" };
 }
 
 QWidget* ImageControls::canvas() const

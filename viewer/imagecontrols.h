@@ -3,7 +3,6 @@
 #include "controlsettings.h"
 
 #include <QPointer>
-#include <QStringList>
 #include <QWidget>
 
 /// What the panel can show of an image.
@@ -30,9 +29,6 @@ public:
 
     /// `name` is one of paletteNames().
     void choosePalette(const QString& name);
-
-    /// As the panel's buttons carry them: "Gray", "Red", "Green", "Blue", "Color".
-    static QStringList paletteNames();
 
     /// To be called with each load, which resets the palette without a click.
     void forgetPalette();

@@ -2,6 +2,7 @@
 
 #include "appearance.h"
 #include "elidedlabel.h"
+#include "plainlabel.h"
 
 #include <QFileInfo>
 #include <QFont>
@@ -11,14 +12,10 @@
 
 namespace {
 
-/// A label whose style comes from its name; plain text only, since it may show file names.
-template <class Label>
-Label* namedLabel(const QString& objectName, const QString& text)
+template <class Label = QLabel>
+Label* centredLabel(const char* objectName, const QString& text = QString())
 {
-    auto* label = new Label;
-    label->setObjectName(objectName);
-    label->setTextFormat(Qt::PlainText);
-    label->setText(text);
+    auto* label = plainLabel<Label>(objectName, text);
     label->setAlignment(Qt::AlignCenter);
     label->setWordWrap(true);
     return label;
@@ -47,7 +44,7 @@ QPushButton* openButton()
 
 QLabel* titleLabel(const QString& text)
 {
-    auto* label = namedLabel<QLabel>("pageTitle", text);
+    auto* label = centredLabel("pageTitle", text);
     QFont font = label->font();
     font.setPixelSize(scaledForScreen(22));
     label->setFont(font);
@@ -94,7 +91,7 @@ WelcomePage::WelcomePage(QWidget* parent)
     const QVector<QWidget*> widgets {
         picture(":/viewer/logo.png"),
         titleLabel(tr("Drop a camera image here")),
-        namedLabel<QLabel>("pageText", tr("JPEG, TIFF, BMP, PNG, or a raw camera file")),
+        centredLabel("pageText", tr("JPEG, TIFF, BMP, PNG, or a raw camera file")),
     };
     fillPage(this, widgets, { button });
     connect(button, &QPushButton::clicked, this, &WelcomePage::openRequested);
@@ -102,8 +99,8 @@ WelcomePage::WelcomePage(QWidget* parent)
 
 LoadProblemPage::LoadProblemPage(QWidget* parent)
     : QFrame(parent)
-    , m_fileName(namedLabel<ElidedLabel>("pageFileName", QString()))
-    , m_reason(namedLabel<QLabel>("pageReason", QString()))
+    , m_fileName(centredLabel<ElidedLabel>("pageFileName"))
+    , m_reason(centredLabel("pageReason"))
 {
     setObjectName("loadProblemPage");
     QPushButton* button = openButton();
@@ -138,7 +135,7 @@ QString LoadProblemPage::reason() const
 EmptyFolderPage::EmptyFolderPage(QWidget* parent)
     : QFrame(parent)
     , m_title(titleLabel(QString()))
-    , m_text(namedLabel<QLabel>("pageText", QString()))
+    , m_text(centredLabel("pageText"))
 {
     setObjectName("emptyFolderPage");
     QPushButton* file = openButton();

@@ -2,6 +2,7 @@
 
 #include "appearance.h"
 #include "elidedlabel.h"
+#include "plainlabel.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -9,15 +10,6 @@
 #include <QProgressBar>
 
 namespace {
-
-template <class Label>
-Label* namedLabel(const char* objectName)
-{
-    auto* label = new Label;
-    label->setObjectName(objectName);
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
 
 /// "12 ms", or "1.4 s" from a second on.
 QString durationText(qint64 milliseconds)
@@ -32,10 +24,10 @@ QString durationText(qint64 milliseconds)
 
 StatusLine::StatusLine(QWidget* parent)
     : QStatusBar(parent)
-    , m_name(namedLabel<ElidedLabel>("statusFileName"))
+    , m_name(plainLabel<ElidedLabel>("statusFileName"))
     , m_progress(new QProgressBar)
-    , m_summary(namedLabel<QLabel>("statusImageSize"))
-    , m_time(namedLabel<QLabel>("statusLoadTime"))
+    , m_summary(plainLabel("statusImageSize"))
+    , m_time(plainLabel("statusLoadTime"))
 {
     m_progress->setObjectName("statusProgress");
     m_progress->setAccessibleName(tr("Progress of the load"));

@@ -20,7 +20,7 @@ QString plainText(const QString& text)
     return QString(text).remove(accessKeyBehind).remove(dots).remove('&');
 }
 
-QString keyTexts(const QAction& action)
+QString keyText(const QAction& action)
 {
     return action.shortcut().toString(QKeySequence::NativeText);
 }
@@ -151,7 +151,7 @@ void ViewerMenu::addPalettes(QMenu* menu)
     const QStringList texts { tr("&Gray"), tr("&Red"), tr("Gr&een"), tr("&Blue"), tr("&Color") };
     const QStringList helps { tr("Gray palette"), tr("Red palette"), tr("Green palette"),
         tr("Blue palette"), tr("Color palette") };
-    const QStringList names = ImageControls::paletteNames();
+    const QStringList names = paletteNames();
     for (int i = 0; i < names.size(); ++i) {
         QAction* action = menu->addAction(texts[i]);
         action->setObjectName("actionPalette" + names[i]);
@@ -214,7 +214,7 @@ QVector<HelpLine> ViewerMenu::keys() const
     for (const QAction* action : m_actions) {
         if (!action->shortcut().isEmpty()) {
             const QString help = action->whatsThis();
-            lines << HelpLine { keyTexts(*action),
+            lines << HelpLine { keyText(*action),
                 help.isEmpty() ? plainText(action->text()) : help };
         }
     }

@@ -69,7 +69,7 @@ public:
 
 Q_SIGNALS:
     void recentFileChosen(int index);
-    void paletteChosen(const QString& name); ///< one of ImageControls::paletteNames()
+    void paletteChosen(const QString& name); ///< one of paletteNames()
 
 private:
     enum class Needs { Nothing, File, Image };

@@ -1,11 +1,10 @@
 #include "viewerwindow.h"
 
 #include "appearance.h"
-#include "controldriver.h"
-#include "cvkintensitywidget.h"
 #include "gallerypage.h"
 #include "helpoverlay.h"
 #include "imagefiles.h"
+#include "imagepage.h"
 #include "pages.h"
 #include "picturefile.h"
 #include "readahead.h"
@@ -16,7 +15,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
-#include <QComboBox>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QElapsedTimer>
@@ -25,11 +23,12 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QPushButton>
-#include <QRadioButton>
+#include <QPointer>
 #include <QSettings>
 #include <QStackedWidget>
 #include <QTimer>
+
+#include <functional>
 
 namespace {
 
@@ -56,7 +55,6 @@ ViewerWindow::ViewerWindow(QWidget* parent)
     setStatusBar(m_status);
     createMenu();
     m_help = new HelpOverlay(m_menu->keys(), this);
-    createIntensityWidget();
     connect(&m_watch, &FileWatch::changed, this, &ViewerWindow::followFile);
     connect(m_status, &QStatusBar::messageChanged, this, &ViewerWindow::updateBars);
     // Room for the panel column, the strips beside the image and a little image.
@@ -81,11 +79,6 @@ void ViewerWindow::createMenu()
         { ViewerCommand::ClearRecentFiles, &ViewerWindow::clearRecentFiles },
         { ViewerCommand::CopyWindow, &ViewerWindow::copyWindow },
         { ViewerCommand::CopyCanvas, &ViewerWindow::copyCanvas },
-        { ViewerCommand::ZoomIn, &ViewerWindow::zoomIn },
-        { ViewerCommand::ZoomOut, &ViewerWindow::zoomOut },
-        { ViewerCommand::ImageView, &ViewerWindow::showImageView },
-        { ViewerCommand::RowChart, &ViewerWindow::showRowChart },
-        { ViewerCommand::ColumnChart, &ViewerWindow::showColumnChart },
         { ViewerCommand::FullScreen, &ViewerWindow::toggleFullScreen },
         { ViewerCommand::LeaveFullScreen, &ViewerWindow::toggleFullScreen },
         { ViewerCommand::Help, &ViewerWindow::showHelp },
@@ -95,7 +88,26 @@ void ViewerWindow::createMenu()
         connect(m_menu->action(command), &QAction::triggered, this, slot);
     }
     connect(m_menu, &ViewerMenu::recentFileChosen, this, &ViewerWindow::openRecentFile);
-    connect(m_menu, &ViewerMenu::paletteChosen, this, &ViewerWindow::choosePalette);
+    connectControls();
+}
+
+/// What the menus do to the image in front.
+void ViewerWindow::connectControls()
+{
+    ImageControls* controls = m_imagePage->controls();
+    const QVector<QPair<ViewerCommand, std::function<void()>>> commands {
+        { ViewerCommand::ZoomIn, [controls] { controls->zoomIn(); } },
+        { ViewerCommand::ZoomOut, [controls] { controls->zoomOut(); } },
+        { ViewerCommand::ImageView, [controls] { controls->showView(ImageView::Image); } },
+        { ViewerCommand::RowChart, [controls] { controls->showView(ImageView::Row); } },
+        { ViewerCommand::ColumnChart, [controls] { controls->showView(ImageView::Column); } },
+    };
+    for (const auto& [command, call] : commands) {
+        connect(m_menu->action(command), &QAction::triggered, m_imagePage, call);
+    }
+    connect(m_menu, &ViewerMenu::paletteChosen, m_imagePage,
+        [controls](const QString& name) { controls->choosePalette(name); });
+    connect(m_imagePage, &ImagePage::viewChanged, this, &ViewerWindow::updateMenu);
 }
 
 void ViewerWindow::createPages()
@@ -108,33 +120,15 @@ void ViewerWindow::createPages()
     m_pages->addWidget(m_problemPage);
     m_galleryPage = new GalleryPage;
     m_pages->addWidget(m_galleryPage);
+    m_imagePage = new ImagePage;
+    m_pages->addWidget(m_imagePage);
     setCentralWidget(m_pages);
     connect(m_welcomePage, &WelcomePage::openRequested, this, &ViewerWindow::chooseFile);
     connect(m_problemPage, &LoadProblemPage::openRequested, this, &ViewerWindow::chooseFile);
     connect(m_galleryPage, &GalleryPage::imageRequested, this, &ViewerWindow::openFile);
     connect(m_galleryPage, &GalleryPage::openRequested, this, &ViewerWindow::chooseFile);
     connect(m_galleryPage, &GalleryPage::folderRequested, this, &ViewerWindow::chooseFolder);
-}
-
-/// Makes a fresh intensity widget in place of the one there is.
-void ViewerWindow::createIntensityWidget()
-{
-    if (m_intensityWidget) {
-        m_intensityWidget->hide();
-        m_pages->removeWidget(m_intensityWidget);
-        m_intensityWidget->deleteLater();
-    }
-    m_intensityWidget = new CVKIntensityWidget(this); // its panel looks for the slot in its parent
-    m_pages->addWidget(m_intensityWidget);
-    m_controls = ImageControls(m_intensityWidget);
-    m_controls.prepare();
-    for (const auto* button : m_intensityWidget->findChildren<QRadioButton*>()) {
-        connect(button, &QRadioButton::toggled, this, &ViewerWindow::updateMenu);
-    }
-    if (auto* axis = m_intensityWidget->findChild<QComboBox*>("comboBoxDisplay")) {
-        connect(
-            axis, qOverload<int>(&QComboBox::currentIndexChanged), this, &ViewerWindow::updateMenu);
-    }
+    connect(m_imagePage, &ImagePage::returnRequested, this, &ViewerWindow::leaveImage);
 }
 
 bool ViewerWindow::restoreSession(std::unique_ptr<QSettings> settings)
@@ -157,8 +151,8 @@ void ViewerWindow::showPage(QWidget* page)
 void ViewerWindow::updateMenu()
 {
     const QWidget* page = m_pages->currentWidget();
-    const bool isImage = page == m_intensityWidget;
-    const ImageView view = m_controls.shownView();
+    const bool isImage = page == m_imagePage;
+    const ImageView view = m_imagePage->controls()->shownView();
     const bool isFile = isImage || page == m_problemPage;
     m_menu->setAvailable(isImage, isFile);
     m_menu->action(ViewerCommand::Reload)->setEnabled(isFile || page == m_galleryPage);
@@ -181,7 +175,7 @@ bool ViewerWindow::openFile(const QString& path)
     m_folder = file.absolutePath();
     m_file = file.absoluteFilePath();
     m_watch.watch(m_file); // before the load, which could miss the end of it
-    const bool loaded = loadIntoWidget(m_file);
+    const bool loaded = loadIntoPage(m_file);
     m_status->hideProgress();
     updateBars();
     if (!loaded) {
@@ -195,9 +189,8 @@ bool ViewerWindow::openFile(const QString& path)
     return true;
 }
 
-/// Loads with the widget in front, since only the page in front has its size. Nothing of it is
-/// painted before openFile() has decided which page stays.
-bool ViewerWindow::loadIntoWidget(const QString& path)
+/// Nothing of the image page is painted before openFile() has decided which page stays.
+bool ViewerWindow::loadIntoPage(const QString& path)
 {
     nameFile(path);
     if (QFileInfo(path).size() > smallFileSize && mayBeImage(path)) {
@@ -205,20 +198,8 @@ bool ViewerWindow::loadIntoWidget(const QString& path)
         m_status->showLoading(QFileInfo(path).fileName());
         readAhead(path, [this](int percent) { m_status->showProgress(percent); });
     }
-    if (!m_intensityWidget) {
-        createIntensityWidget();
-    }
-    m_intensityWidget->closeImage();
-    m_controls.forgetPalette();
-    m_pages->setCurrentWidget(m_intensityWidget);
-    if (isHugeRawFileCutShort(path) || !m_intensityWidget->loadImage(path)) {
-        return false;
-    }
-    if (isRawFileWithoutPixels(path)) {
-        createIntensityWidget(); // it loads, but its canvas keeps the picture before
-        return false;
-    }
-    return true;
+    m_pages->setCurrentWidget(m_imagePage);
+    return m_imagePage->load(path);
 }
 
 void ViewerWindow::showProblem(const QString& path)
@@ -316,23 +297,16 @@ void ViewerWindow::showWelcome()
     nameWindow(QString(), tr("No image"));
 }
 
-/// Closes the image and brings the button that asked for it, if it did, back up.
 void ViewerWindow::releaseImage()
 {
     m_watch.watch(QString());
-    if (!m_intensityWidget) {
-        return;
-    }
-    m_intensityWidget->closeImage();
-    if (auto* button = m_intensityWidget->findChild<QPushButton*>("Return")) {
-        button->setChecked(false);
-    }
+    m_imagePage->closeImage();
 }
 
 void ViewerWindow::closeFile()
 {
     const QWidget* page = m_pages->currentWidget();
-    const bool fromFile = page == m_intensityWidget || page == m_problemPage;
+    const bool fromFile = page == m_imagePage || page == m_problemPage;
     if (fromFile && !imagesInFolder(m_folder).isEmpty()) {
         showGallery(m_folder);
     } else {
@@ -340,7 +314,7 @@ void ViewerWindow::closeFile()
     }
 }
 
-void ViewerWindow::sltSwitchToGallery()
+void ViewerWindow::leaveImage()
 {
     if (m_folder.isEmpty()) {
         showWelcome();
@@ -383,10 +357,10 @@ void ViewerWindow::reload()
 void ViewerWindow::followFile()
 {
     const QWidget* page = m_pages->currentWidget();
-    if (page != m_intensityWidget && page != m_problemPage) {
+    if (page != m_imagePage && page != m_problemPage) {
         return;
     }
-    if (page == m_intensityWidget && m_controls.regionCount() > 0) {
+    if (page == m_imagePage && m_imagePage->controls()->regionCount() > 0) {
         m_status->showMessage(tr("The file has changed. F5 loads it again, without the regions."));
     } else if (QApplication::mouseButtons() == Qt::NoButton) {
         reloadImage();
@@ -398,10 +372,10 @@ void ViewerWindow::followFile()
 /// Opens the file and sets the controls as they were.
 void ViewerWindow::reloadImage()
 {
-    const ControlSettings settings = m_controls.settings();
+    const ControlSettings settings = m_imagePage->controls()->settings();
     const QPointer<QWidget> focused = focusWidget();
     if (openFile(m_file) && !settings.isEmpty()) {
-        ControlDriver(m_intensityWidget, imageSize(m_file)).apply(settings);
+        m_imagePage->apply(settings, imageSize(m_file));
     }
     if (focused && focused->isVisible()) {
         focused->setFocus();
@@ -435,7 +409,7 @@ void ViewerWindow::copyWindow()
 
 void ViewerWindow::copyCanvas()
 {
-    if (QWidget* canvas = m_controls.canvas()) {
+    if (QWidget* canvas = m_imagePage->controls()->canvas()) {
         QApplication::clipboard()->setPixmap(canvas->grab());
         m_status->showMessage(tr("The canvas is on the clipboard."), messageMilliseconds);
     }
@@ -459,36 +433,6 @@ void ViewerWindow::saveScreenshot()
     } else {
         QMessageBox::warning(this, tr("Save Screenshot"), problem);
     }
-}
-
-void ViewerWindow::zoomIn()
-{
-    m_controls.zoomIn();
-}
-
-void ViewerWindow::zoomOut()
-{
-    m_controls.zoomOut();
-}
-
-void ViewerWindow::showImageView()
-{
-    m_controls.showView(ImageView::Image);
-}
-
-void ViewerWindow::showRowChart()
-{
-    m_controls.showView(ImageView::Row);
-}
-
-void ViewerWindow::showColumnChart()
-{
-    m_controls.showView(ImageView::Column);
-}
-
-void ViewerWindow::choosePalette(const QString& name)
-{
-    m_controls.choosePalette(name);
 }
 
 void ViewerWindow::toggleFullScreen()

@@ -1,17 +1,15 @@
 #pragma once
 
 #include "filewatch.h"
-#include "imagecontrols.h"
 #include "sessionstore.h"
 
 #include <QMainWindow>
-#include <QPointer>
 
 #include <memory>
 
-class CVKIntensityWidget;
 class GalleryPage;
 class HelpOverlay;
+class ImagePage;
 class LoadProblemPage;
 class QMimeData;
 class QSettings;
@@ -62,8 +60,8 @@ public Q_SLOTS:
     void closeFile();
 
     /// Closes the image and shows the gallery of its folder; the welcome page before any file was
-    /// opened. The Return button of the intensity widget calls this by name.
-    void sltSwitchToGallery();
+    /// opened.
+    void leaveImage();
 
     /// The gallery of the folder that was shown last; before any, the user chooses one.
     void showMenuGallery();
@@ -87,13 +85,6 @@ public Q_SLOTS:
     /// Asks for a file name and saves the window there as a PNG picture.
     void saveScreenshot();
 
-    void zoomIn();
-    void zoomOut();
-    void showImageView();
-    void showRowChart();
-    void showColumnChart();
-    void choosePalette(const QString& name);
-
     void toggleFullScreen();
     void showHelp();
     void showAbout();
@@ -108,7 +99,7 @@ protected:
 private:
     void createPages();
     void createMenu();
-    void createIntensityWidget();
+    void connectControls();
     void openSoon(const QString& path);
     void followFile();
     void reloadImage();
@@ -117,7 +108,7 @@ private:
     void updateMenu();
     void showWelcome();
     void releaseImage();
-    bool loadIntoWidget(const QString& path);
+    bool loadIntoPage(const QString& path);
     void showProblem(const QString& path);
     void showNeighbour(int step, const QString& lackOfOne);
     void nameFile(const QString& path);
@@ -127,8 +118,7 @@ private:
     WelcomePage* m_welcomePage = nullptr;
     LoadProblemPage* m_problemPage = nullptr;
     GalleryPage* m_galleryPage = nullptr;
-    QPointer<CVKIntensityWidget> m_intensityWidget; // deletes itself when it is closed
-    ImageControls m_controls; // of that widget
+    ImagePage* m_imagePage = nullptr;
     ViewerMenu* m_menu = nullptr;
     HelpOverlay* m_help = nullptr;
     StatusLine* m_status = nullptr;

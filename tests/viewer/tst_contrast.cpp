@@ -195,7 +195,7 @@ void TestContrast::image()
 void TestContrast::chart()
 {
     QVERIFY(m_viewer->window->openFile(m_viewer->path("frame 1.raw")));
-    m_viewer->window->showRowChart();
+    m_viewer->action("actionRowChart")->trigger();
     checkWindow(25);
 }
 

@@ -2,7 +2,7 @@
 
 #include "gallerypage.h"
 #include "helpoverlay.h"
-#include "imagecontrols.h"
+#include "imagepage.h"
 #include "pages.h"
 #include "viewerfixture.h"
 
@@ -74,6 +74,7 @@ private Q_SLOTS:
     void reload();
     void reload_keepsTheControls();
     void saveScreenshot();
+    void saveScreenshot_suggestsNameAndFolder();
     void saveScreenshot_thatCannotBeWritten();
     void close();
     void quit();
@@ -119,6 +120,7 @@ void TestViewerMenu::cleanup()
 
 void TestViewerMenu::press(const char* keys)
 {
+    QApplication::setActiveWindow(m_viewer->window.get()); // no window manager does after a dialog
     QTest::keySequence(m_viewer->window.get(), QKeySequence(keys));
 }
 
@@ -277,7 +279,7 @@ void TestViewerMenu::nextAndPrevious_fromAProblem()
     QVERIFY(!m_viewer->window->openFile(m_viewer->path("frame 3.raw"))); // is not there
     press("PgDown");
     QCOMPARE(m_viewer->shownFile(), QString("frame 10.raw"));
-    QCOMPARE(m_viewer->page(), m_viewer->intensity());
+    QVERIFY(qobject_cast<ImagePage*>(m_viewer->page()));
 }
 
 void TestViewerMenu::pageKeys_belongToTheGallery()
@@ -329,6 +331,36 @@ void TestViewerMenu::saveScreenshot()
     const QImage picture(m_viewer->path("picture.png"));
     QCOMPARE(picture.size(), m_viewer->window->size());
     QCOMPARE(m_viewer->window->statusBar()->currentMessage(), QString("The screenshot is saved."));
+}
+
+void TestViewerMenu::saveScreenshot_suggestsNameAndFolder()
+{
+    QString name;
+    QDir folder;
+    const auto cancelNextDialog = [this, &name, &folder] {
+        QTimer::singleShot(dialogMilliseconds, this, [&name, &folder] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            name = dialog->findChild<QLineEdit*>()->text();
+            folder = dialog->directory();
+            dialog->reject();
+        });
+    };
+    cancelNextDialog();
+    press("Ctrl+S");
+    QCOMPARE(name, QString("frame 2-screenshot.png"));
+    QVERIFY(QDir(m_viewer->folder.path()).entryList({ "*.png" }).isEmpty());
+
+    QVERIFY(QDir(m_viewer->folder.path()).mkdir("pictures"));
+    chooseName(m_viewer->path("pictures/a.png"));
+    press("Ctrl+S");
+    QVERIFY(QFile::exists(m_viewer->path("pictures/a.png")));
+    m_viewer->window->showGallery(m_viewer->folder.path());
+    name.clear();
+    cancelNextDialog();
+    press("Ctrl+S");
+    QCOMPARE(folder.path(), m_viewer->path("pictures")); // where the one before went
+    QCOMPARE(name, QDir(m_viewer->folder.path()).dirName() + "-screenshot.png");
 }
 
 void TestViewerMenu::saveScreenshot_thatCannotBeWritten()
@@ -460,7 +492,7 @@ void TestViewerMenu::palettes_data()
 {
     QTest::addColumn<QString>("keys");
     QTest::addColumn<QString>("button");
-    const QStringList names = ImageControls::paletteNames();
+    const QStringList names = paletteNames();
     for (int i = 0; i < names.size(); ++i) {
         QTest::newRow(qPrintable(names[i])) << QString("Alt+%1").arg(i + 1) << names[i];
     }
@@ -499,6 +531,10 @@ void TestViewerMenu::fullScreen()
     press("F11");
     QVERIFY(!window->isFullScreen());
     QVERIFY(!m_viewer->action("actionFullScreen")->isChecked());
+    window->showMaximized();
+    press("F11");
+    press("Esc");
+    QVERIFY(window->isMaximized()); // as it was before
 }
 
 void TestViewerMenu::help()

@@ -1,5 +1,6 @@
 #include "filewatch.h"
 #include "gallerypage.h"
+#include "imagepage.h"
 #include "readahead.h"
 #include "viewerfixture.h"
 
@@ -13,6 +14,7 @@
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QWheelEvent>
+#include <QWindow>
 
 /// What the window does beside its menus: what it remembers, follows and tells.
 class TestViewerSession : public QObject
@@ -36,6 +38,7 @@ private Q_SLOTS:
     void session_isNotTouchedWithoutSettings();
     void watch_reloadsAChangedFile();
     void watch_leavesRegionsAlone();
+    void watch_waitsForTheMouseButton();
     void watch_mendsAProblem();
     void watch_leavesTheGalleryAlone();
     void load_showsProgressAndWaits();
@@ -218,11 +221,27 @@ void TestViewerSession::watch_leavesRegionsAlone()
     QVERIFY(m_viewer->window->statusBar()->currentMessage().isEmpty());
 }
 
+/// Nothing is replaced under a button that is held down.
+void TestViewerSession::watch_waitsForTheMouseButton()
+{
+    QVERIFY(m_viewer->window->openFile(m_viewer->path("frame 1.raw")));
+    QWindow* window = m_viewer->window->windowHandle();
+    const QPoint place(window->width() - 60, 60); // beside the image
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, place);
+    QCOMPARE(QApplication::mouseButtons(), Qt::LeftButton);
+    m_viewer->writeFrame("frame 1.raw", 100);
+    QTest::qWait(4 * FileWatch::restMilliseconds);
+    QCOMPARE(m_viewer->status("statusImageSize"), QString::fromUtf8("64 × 48 pixels   16 bit"));
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, place);
+    QTRY_COMPARE(
+        m_viewer->status("statusImageSize"), QString::fromUtf8("100 × 48 pixels   16 bit"));
+}
+
 void TestViewerSession::watch_mendsAProblem()
 {
     QVERIFY(!m_viewer->window->openFile(m_viewer->path("later.raw")));
     m_viewer->writeFrame("later.raw", 70);
-    QTRY_COMPARE(m_viewer->page(), m_viewer->intensity());
+    QTRY_VERIFY(qobject_cast<ImagePage*>(m_viewer->page()));
     QCOMPARE(m_viewer->shownFile(), QString("later.raw"));
 }
 

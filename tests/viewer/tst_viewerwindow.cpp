@@ -3,6 +3,7 @@
 #include "appearance.h"
 #include "cvkintensitywidget.h"
 #include "gallerypage.h"
+#include "imagepage.h"
 #include "pages.h"
 #include "scenes.h"
 
@@ -98,6 +99,7 @@ private Q_SLOTS:
 private:
     CVKIntensityWidget* intensity() const { return m_window->findChild<CVKIntensityWidget*>(); }
     QWidget* page() const { return m_window->findChild<QStackedWidget*>("pages")->currentWidget(); }
+    ImagePage* imagePage() const { return m_window->findChild<ImagePage*>(); }
     GalleryPage* gallery() const { return m_window->findChild<GalleryPage*>(); }
     QListView* galleryView() const { return m_window->findChild<QListView*>("galleryView"); }
     QPushButton* returnButton() const { return intensity()->findChild<QPushButton*>("Return"); }
@@ -163,7 +165,7 @@ void TestViewerWindow::startsOnTheWelcomePage()
 void TestViewerWindow::open_showsTheImage()
 {
     QVERIFY(m_window->openFile(path("lamp.raw")));
-    QCOMPARE(page(), intensity());
+    QCOMPARE(page(), imagePage());
     QVERIFY(intensity()->isVisible());
     QVERIFY(m_window->problem().isEmpty());
     QCOMPARE(m_window->windowTitle(), QString("lamp.raw - VKIntensity Viewer"));
@@ -215,7 +217,7 @@ void TestViewerWindow::open_aGoodFileAfterAProblem()
     const QImage direct = pictureOf(page());
     QVERIFY(!m_window->openFile(path("fake.png")));
     QVERIFY(m_window->openFile(path("rings.raw")));
-    QCOMPARE(page(), intensity());
+    QCOMPARE(page(), imagePage());
     QVERIFY(m_window->problem().isEmpty());
     QCOMPARE(pictureOf(page()), direct);
 }
@@ -232,7 +234,7 @@ void TestViewerWindow::open_anEmptyRawFileReplacesTheWidget()
     QVERIFY(intensity());
 
     QVERIFY(m_window->openFile(path("lamp.raw")));
-    QCOMPARE(page(), intensity());
+    QCOMPARE(page(), imagePage());
     QCOMPARE(m_window->findChildren<CVKIntensityWidget*>().size(), 1);
 }
 
@@ -245,7 +247,7 @@ void TestViewerWindow::open_afterTheWidgetWasClosed()
     QVERIFY(before.isNull());
     m_window->closeFile();
     QVERIFY(m_window->openFile(path("lamp.raw")));
-    QCOMPARE(page(), intensity());
+    QCOMPARE(page(), imagePage());
 }
 
 void TestViewerWindow::open_hostileNames()
@@ -315,7 +317,7 @@ void TestViewerWindow::returnButton_ofAReplacedWidget()
 
 void TestViewerWindow::gallerySlot_withoutAFile()
 {
-    QVERIFY(QMetaObject::invokeMethod(m_window.get(), "sltSwitchToGallery"));
+    QVERIFY(QMetaObject::invokeMethod(imagePage(), "sltSwitchToGallery"));
     QVERIFY(qobject_cast<WelcomePage*>(page()));
 }
 
@@ -341,7 +343,7 @@ void TestViewerWindow::gallery_opensADoubleClickedImage()
     QTest::mouseClick(galleryView()->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
     QCOMPARE(page(), gallery());
     QTest::mouseDClick(galleryView()->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
-    QCOMPARE(page(), intensity());
+    QCOMPARE(page(), imagePage());
     QCOMPARE(m_window->windowTitle(), QString("rings.raw - VKIntensity Viewer"));
 }
 
@@ -351,7 +353,7 @@ void TestViewerWindow::gallery_opensWithEnter()
     const QImage direct = pictureOf(page());
     QTest::mouseClick(returnButton(), Qt::LeftButton);
     QTest::keyClick(galleryView(), Qt::Key_Return);
-    QCOMPARE(page(), intensity());
+    QCOMPARE(page(), imagePage());
     QCOMPARE(pictureOf(page()), direct); // everything stands as after the first time
 }
 
@@ -378,7 +380,7 @@ void TestViewerWindow::escape_staysInTheImage()
     QVERIFY(m_window->openFile(path("lamp.raw")));
     QTest::keyClick(m_window.get(), Qt::Key_Escape);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-    QCOMPARE(page(), intensity());
+    QCOMPARE(page(), imagePage());
 }
 
 void TestViewerWindow::wheel_overABoxScrollsThePanel()
@@ -401,7 +403,7 @@ void TestViewerWindow::path_ofAFolderShowsTheGallery()
     QVERIFY(m_window->openPath(m_folder.path()));
     QCOMPARE(page(), gallery());
     QVERIFY(m_window->openPath(path("lamp.raw")));
-    QCOMPARE(page(), intensity());
+    QCOMPARE(page(), imagePage());
     QVERIFY(!m_window->openPath(path("gone")));
     QVERIFY(qobject_cast<LoadProblemPage*>(page()));
     QVERIFY(!m_window->openPath(QString()));
@@ -433,7 +435,7 @@ void TestViewerWindow::dialog_opensTheChosenFile()
     });
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QTest::mouseClick(page()->findChild<QPushButton*>("pageOpenButton"), Qt::LeftButton);
-    QTRY_COMPARE(page(), intensity());
+    QTRY_COMPARE(page(), imagePage());
 }
 
 void TestViewerWindow::dialog_opensTheChosenFolder()
@@ -485,7 +487,7 @@ void TestViewerWindow::drop_opensTheFile()
     QMimeData data;
     data.setUrls({ QUrl::fromLocalFile(path("lamp.raw")) });
     dropOnto(m_window.get(), data);
-    QTRY_COMPARE(page(), intensity());
+    QTRY_COMPARE(page(), imagePage());
     QCOMPARE(m_window->windowTitle(), QString("lamp.raw - VKIntensity Viewer"));
 }
 
