@@ -7,6 +7,7 @@
 #include "panel/scaledpixels.h"
 #include "widget/columnskin.h"
 #include "widget/cvkintensitymdiwidget.h"
+#include "widget/intensitydoor.h"
 #include "widget/wire.h"
 
 #include <QCoreApplication>
