@@ -19,14 +19,31 @@ ImageLoadRegistry::~ImageLoadRegistry() = default;
 
 bool ImageLoadRegistry::load(const QString& path, ImageData* image)
 {
+    ReadReport report;
+    return load(path, image, ReadOptions(), &report);
+}
+
+bool ImageLoadRegistry::load(
+    const QString& path, ImageData* image, const ReadOptions& options, ReadReport* report)
+{
+    *report = ReadReport();
     const QFileInfo file(path);
     if (!file.exists()) {
+        report->problem = LoadProblem::Missing;
+        return false;
+    }
+    if (!file.isFile()) {
+        report->problem = LoadProblem::NotAFile;
         return false;
     }
     ImageLoadBase* loader = m_loaderBySuffix.value(file.suffix().toLower(), nullptr);
     if (!loader) {
+        report->problem = LoadProblem::UnknownSuffix;
         return false;
     }
     loader->filePath = path;
-    return loader->load(image);
+    loader->options = options;
+    const bool loaded = loader->load(image);
+    *report = loader->report;
+    return loaded;
 }

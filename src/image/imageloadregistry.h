@@ -1,5 +1,7 @@
 #pragma once
 
+#include "image/reading.h"
+
 #include <QMap>
 #include <QString>
 
@@ -22,7 +24,13 @@ public:
 
     /// Fills `image` from the file. False, with the record as it was, for a missing file, an
     /// unknown suffix, a null record or a file that its loader refuses.
+    /// As stored, page 0, whatever the size.
     bool load(const QString& path, ImageData* image);
+
+    /// Same as `options` say. `report`, which is never null, tells what was found, and for a
+    /// refusal the reason. No exception gets out.
+    bool load(
+        const QString& path, ImageData* image, const ReadOptions& options, ReadReport* report);
 
 private:
     std::unique_ptr<ImageLoadCv> m_cvLoader;
