@@ -5,6 +5,7 @@
 #include "image/saturate.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 ImageIntensityAnalysis::ImageIntensityAnalysis(ImageData* firstImage)
@@ -52,6 +53,20 @@ void ImageIntensityAnalysis::setImageData(ImageData* newImage)
     convertToDisplay();
 }
 
+void ImageIntensityAnalysis::refreshImageData()
+{
+    if (!hasImage()) {
+        return;
+    }
+    m_rendered = Rendering();
+    histogram.calcHistogram();
+    Q_EMIT newHistogramSize(int(histogram.size));
+    if (hasImage()) { // a receiver may have closed it
+        convertToDisplay();
+    }
+    updateLines();
+}
+
 void ImageIntensityAnalysis::createDisplayImage()
 {
     if (displayImage) {
@@ -72,6 +87,11 @@ void ImageIntensityAnalysis::createDisplayImage()
     displayBuffer = m_displayMemory.data();
     m_displayPixels = image->pixelCount;
     m_displayMemory.zeroFrom(canConvert() ? size_t(m_displayPixels) * 3 : 0);
+    if (m_areRowsPacked && image->width <= std::numeric_limits<int>::max() / 3) {
+        *displayImage = QImage(
+            displayBuffer, image->width, image->height, 3 * image->width, QImage::Format_RGB888);
+        return;
+    }
     // Deliberate: this constructor takes rows as padded to four bytes, while the conversion writes
     // them packed; the two agree for widths that are a multiple of four.
     *displayImage = QImage(displayBuffer, image->width, image->height, QImage::Format_RGB888);
@@ -226,11 +246,11 @@ void ImageIntensityAnalysis::computeRoiStatistics(const QRect& roi)
     forSampleWidth(std::as_const(*image), [&](const auto* samples) {
         const RoiRows rows { roi, image->width,
             qint64(image->allocatedBytes() / sizeof(*samples)) };
-        const RoiTotals totals = roiTotals(samples, rows);
-        roiInfo.min = totals.range.min;
-        roiInfo.max = totals.range.max;
-        roiInfo.mean = roiMean(totals, rows);
-        roiInfo.standardDeviation = roiDeviation(samples, rows, totals.range, roiInfo.mean);
+        const RoiStatistics statistics = roiStatistics(samples, rows);
+        roiInfo.min = statistics.range.min;
+        roiInfo.max = statistics.range.max;
+        roiInfo.mean = statistics.mean;
+        roiInfo.standardDeviation = statistics.deviation;
         // Deliberate: with a deviation of 0, or none, the last region's ratio stays.
         if (roiInfo.standardDeviation > 0.0) {
             roiInfo.signalToNoise = roiInfo.mean / roiInfo.standardDeviation;

@@ -52,6 +52,14 @@ public:
     /// an image without pixels, is remembered and nothing else: the last results stay.
     void setImageData(ImageData* image);
 
+    /// The pixels of the image have new values, in the same size and depth: analyzes and renders
+    /// them, and sends the lines through the anchor. Without an image nothing happens.
+    void refreshImageData();
+
+    /// Whether display images to come take their rows as packed as they are written, which shows
+    /// every width rightly. False at first: rows are then taken as padded to four bytes.
+    void setDisplayRowsPacked(bool arePacked) { m_areRowsPacked = arePacked; }
+
 Q_SIGNALS:
     void updateImage();
     void newHistogramSize(int size);
@@ -95,5 +103,6 @@ private:
 
     PixelMemory m_displayMemory;
     qint64 m_displayPixels = 0; ///< pixels that displayBuffer was made for
+    bool m_areRowsPacked = false;
     Rendering m_rendered;
 };

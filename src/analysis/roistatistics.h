@@ -26,3 +26,19 @@ double roiMean(const RoiTotals& totals, const RoiRows& rows);
 template <class Sample>
 double roiDeviation(
     const Sample* samples, const RoiRows& rows, const SampleRange& range, double mean);
+
+/// All of the above.
+struct RoiStatistics
+{
+    SampleRange range;
+    double mean = 0.0;
+    double deviation = 0.0;
+};
+
+template <class Sample>
+RoiStatistics roiStatistics(const Sample* samples, const RoiRows& rows)
+{
+    const RoiTotals totals = roiTotals(samples, rows);
+    const double mean = roiMean(totals, rows);
+    return { totals.range, mean, roiDeviation(samples, rows, totals.range, mean) };
+}

@@ -215,14 +215,24 @@ void ImageLayoutItem::showView(const QRectF& visible)
 
 void ImageLayoutItem::resetAnchor()
 {
+    if (hasImage()) {
+        placeAnchor(QPoint(image->width() / 2, image->height() - 1));
+    }
+}
+
+void ImageLayoutItem::placeAnchor(const QPoint& pixel)
+{
     if (!hasImage()) {
         return;
     }
     const QPointer<ImageLayoutItem> self(this);
-    anchor = QPointF(image->width() / 2, image->height() - 1);
+    anchor = pixel;
     moveCross();
     if (self) {
         Q_EMIT changeAnchorImagePosition(anchor);
+    }
+    if (self) {
+        update(); // the cross is drawn outside its own bounding rectangle
     }
 }
 

@@ -47,6 +47,9 @@ public:
     /// happens.
     void resetAnchor();
 
+    /// Puts the anchor on an image pixel and announces it. Without an image nothing happens.
+    void placeAnchor(const QPoint& pixel);
+
     /// The whole image in item units, which starts left of and above the item when it is zoomed
     /// in; null without an image.
     QRectF imageExtent() const;

@@ -58,7 +58,7 @@ void RectangleItems::clear()
 
 void RectangleItems::addItem()
 {
-    if (!imageItem || !imageItem->image || imageItem->image->isNull()) {
+    if (!hasImage()) {
         return;
     }
     const QSize image = imageItem->image->size();
@@ -71,32 +71,99 @@ void RectangleItems::addItem()
     }
     const QPointF origin(int(image.width() - defaultSize.width()) / 2,
         int(image.height() - defaultSize.height()) / 2);
-    const int index = int(items.size());
-    auto* const item = new RectangleItem(imageItem, index + 1);
     QRectF onItem = imageItem->mapRectFromImage(QRectF(origin, defaultSize));
     imageItem->snapRect(onItem);
+    // Deliberate: the view is connected again at every add, and never disconnected: the slot runs
+    // once for each region ever added.
+    append(onItem, imageItem->mapRectToImage(onItem), Qt::AutoConnection);
+    announceNew();
+}
+
+bool RectangleItems::hasImage() const
+{
+    return imageItem && imageItem->image && !imageItem->image->isNull();
+}
+
+/// Adds a region that stands at `onItem` in item units and holds `pixels` of the image.
+void RectangleItems::append(const QRectF& onItem, const QRectF& pixels, Qt::ConnectionType viewWire)
+{
+    auto* const item = new RectangleItem(imageItem, int(items.size()) + 1);
     item->margin = imageItem->borderWidth;
     item->changedParentBoundingRect(imageItem->imageExtent());
     item->setRect(onItem);
-
     connect(item, SIGNAL(changeRect(RectangleItem*, QRectF)), //
         this, SLOT(changedRoi(RectangleItem*, QRectF)));
-    // Deliberate: made again at every add, and never undone: the slot runs once for each region
-    // ever added.
     connect(imageItem, SIGNAL(changeDrawRect(QRectF)), //
-        this, SLOT(changedItemBoundingRect(QRectF)));
+        this, SLOT(changedItemBoundingRect(QRectF)), viewWire);
     connect(item, &QObject::destroyed, this, [this, item] { drop(item); });
-
-    rects.append(imageItem->mapRectToImage(onItem));
+    rects.append(pixels);
     items.append(item);
+}
+
+/// The pixels are kept as given; only what is drawn goes through item units.
+void RectangleItems::appendPixels(const QRect& pixels)
+{
+    QRectF onItem = imageItem->mapRectFromImage(QRectF(pixels));
+    imageItem->snapRect(onItem);
+    append(onItem, QRectF(pixels), Qt::UniqueConnection);
+}
+
+/// Announces the names with the last region, which is new, and selects it.
+void RectangleItems::announceNew()
+{
     const QPointer<RectangleItems> self(this);
     announceNames();
     if (self) {
-        selectItem(index);
+        selectItem(int(items.size()) - 1);
     }
-    if (self) {
+    if (self && imageItem) {
         imageItem->update();
     }
+}
+
+void RectangleItems::addPixels(const QRect& pixels)
+{
+    if (hasImage()) {
+        appendPixels(pixels);
+        announceNew();
+    }
+}
+
+void RectangleItems::setPixels(int index, const QRect& pixels)
+{
+    if (!imageItem || index < 0 || index >= items.size()) {
+        return;
+    }
+    rects[index] = QRectF(pixels);
+    m_projected.resize(items.size());
+    project(index, currentView());
+    const QPointer<RectangleItems> self(this);
+    selectItem(index);
+    if (self && imageItem) {
+        imageItem->update();
+    }
+}
+
+void RectangleItems::replaceAll(const QVector<QRect>& pixels)
+{
+    if (!hasImage()) {
+        return;
+    }
+    clear();
+    for (const QRect& rect : pixels) {
+        appendPixels(rect);
+    }
+    announceNew();
+}
+
+int RectangleItems::markedIndex() const
+{
+    for (int i = 0; i < items.size(); ++i) {
+        if (items.at(i)->isSelected()) {
+            return i;
+        }
+    }
+    return -1;
 }
 
 void RectangleItems::deleteItem(int index)

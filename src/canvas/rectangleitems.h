@@ -29,6 +29,15 @@ public:
     /// Deletes every region. Announces nothing, and the names stay.
     void clear();
 
+    /// Adds a region of exactly these pixels of the image and selects it; nothing without an image.
+    void addPixels(const QRect& pixels);
+    /// Gives a region exactly these pixels and selects it. Other indices: ignored.
+    void setPixels(int index, const QRect& pixels);
+    /// Replaces all regions, announces the names once and selects the last region.
+    void replaceAll(const QVector<QRect>& pixels);
+    /// The first region that is marked with handles; -1 for none.
+    int markedIndex() const;
+
 Q_SIGNALS:
     void updateSelectedRoi(int selected, QRectF rect); ///< image pixels
     void updateItemNames(QStringList itemNames);
@@ -65,6 +74,10 @@ private:
         double scale = 0.0;
     };
 
+    bool hasImage() const;
+    void append(const QRectF& onItem, const QRectF& pixels, Qt::ConnectionType viewWire);
+    void appendPixels(const QRect& pixels);
+    void announceNew();
     View currentView() const;
     bool isProjected(const View& view) const;
     void project(int index, const View& view);

@@ -1,5 +1,6 @@
 #include "image/faithfulsamples.h"
 
+#include "image/grayconversion.h"
 #include "image/imagedata.h"
 
 #include <cmath>
@@ -45,13 +46,6 @@ bool areWholeNumbers(const DecodedSamples& samples)
         }
     }
     return true;
-}
-
-/// Gray value of blue, green and red numbers of 32 bits; its 64 bits hold every sum.
-template <class Sample>
-uint exactGray(const Sample* pixel)
-{
-    return uint((quint64(pixel[0]) * 15 + quint64(pixel[1]) * 75 + quint64(pixel[2]) * 38) >> 7);
 }
 
 /// One line of checked samples as unsigned numbers.

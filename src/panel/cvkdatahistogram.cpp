@@ -105,6 +105,24 @@ void CVKDataHistogram::on_comboBoxRoi_currentIndexChanged(int index)
     Q_EMIT selectRoiItem(index - 1);
 }
 
+void CVKDataHistogram::chooseRegion(int index)
+{
+    if (index < -1 || index >= m_form->comboBoxRoi->count() - 1) {
+        return;
+    }
+    const int row = index + 1; // behind "None Select"
+    if (m_form->comboBoxRoi->currentIndex() == row) {
+        on_comboBoxRoi_currentIndexChanged(row);
+    } else {
+        m_form->comboBoxRoi->setCurrentIndex(row);
+    }
+}
+
+int CVKDataHistogram::chosenRegion() const
+{
+    return std::max(m_form->comboBoxRoi->currentIndex(), 0) - 1;
+}
+
 void CVKDataHistogram::updateRoiIntensityInfo(int selected, IntensityInfo info)
 {
     const qint64 row = qint64(selected) + 1;

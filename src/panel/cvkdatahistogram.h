@@ -32,6 +32,11 @@ public:
     /// sends that is emptied and filled: selectRoiItem(-2), then updateIntensityHistogram().
     void resetRoiList();
 
+    /// What the user does at the list of regions: selects region `index`, or "None Select" for -1.
+    /// An entry that is selected already is announced one more time. Other indices: ignored.
+    void chooseRegion(int index);
+    int chosenRegion() const; ///< -1 for "None Select"
+
 Q_SIGNALS:
     void addRoiItem();
     void deleteRoiItem(int index);

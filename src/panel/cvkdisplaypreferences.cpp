@@ -16,6 +16,9 @@ namespace {
 
 constexpr int wavelengthType = 1; // index in the axis type names
 constexpr int grayPalette = 0;
+constexpr int largestPeakCount = 200;
+constexpr int largestStart = 2000;
+constexpr int largestPixelWidth = 100;
 
 QVector<QColor> grayLevels()
 {
@@ -58,9 +61,9 @@ CVKDisplayPreferences::~CVKDisplayPreferences() = default;
 
 void CVKDisplayPreferences::attachValidators()
 {
-    m_form->lineEditPeaks->setValidator(new QIntValidator(1, 200, this));
-    m_form->lineEditXStart->setValidator(new QIntValidator(0, 2000, this));
-    m_form->lineEditPixelWidth->setValidator(new QIntValidator(1, 100, this));
+    m_form->lineEditPeaks->setValidator(new QIntValidator(1, largestPeakCount, this));
+    m_form->lineEditXStart->setValidator(new QIntValidator(0, largestStart, this));
+    m_form->lineEditPixelWidth->setValidator(new QIntValidator(1, largestPixelWidth, this));
 }
 
 void CVKDisplayPreferences::fillComboBoxes()
@@ -78,6 +81,7 @@ void CVKDisplayPreferences::fillComboBoxes()
 void CVKDisplayPreferences::resetDefaults()
 {
     const QPointer<CVKDisplayPreferences> self(this);
+    m_announcedPalette = grayPalette;
     Q_EMIT switchDisplayType(0);
     if (self) { // a receiver may have deleted the panel
         Q_EMIT changePalette(m_palettes[grayPalette]);
@@ -155,6 +159,7 @@ void CVKDisplayPreferences::on_comboBoxType_currentIndexChanged(int index)
     if (index == wavelengthType) {
         sendWavelength();
     } else {
+        m_announcedWavelength.reset();
         Q_EMIT changePixelsToWavelength(-1.0, -1.0);
     }
     setUnitRowEnabled(index != 0);
@@ -173,14 +178,94 @@ void CVKDisplayPreferences::on_pushButtonApply_clicked()
         sendWavelength();
     }
     if (self && m_form->radioButton2D->isChecked()) {
-        Q_EMIT changeMaxPeaksCount(m_form->lineEditPeaks->text().toInt());
+        sendPeakCount();
     }
 }
 
 void CVKDisplayPreferences::sendWavelength()
 {
-    Q_EMIT changePixelsToWavelength(
-        m_form->lineEditXStart->text().toInt(), m_form->lineEditPixelWidth->text().toInt());
+    const int start = m_form->lineEditXStart->text().toInt();
+    const int pixelWidth = m_form->lineEditPixelWidth->text().toInt();
+    m_announcedWavelength = Wavelength { start, pixelWidth, 0 };
+    Q_EMIT changePixelsToWavelength(start, pixelWidth);
+}
+
+void CVKDisplayPreferences::sendPeakCount()
+{
+    Q_EMIT changeMaxPeaksCount(m_form->lineEditPeaks->text().toInt());
+}
+
+void CVKDisplayPreferences::chooseDisplayType(int index)
+{
+    if (index == 0) {
+        m_form->radioButtonImage->setChecked(true);
+        on_radioButtonImage_clicked(true);
+    } else {
+        m_form->radioButton2D->setChecked(true);
+        on_radioButton2D_clicked(true);
+    }
+}
+
+void CVKDisplayPreferences::chooseAxis(int index)
+{
+    m_form->comboBoxDisplay->setCurrentIndex(index);
+}
+
+int CVKDisplayPreferences::axis() const
+{
+    return m_form->comboBoxDisplay->currentIndex();
+}
+
+bool CVKDisplayPreferences::takesWavelength(int start, int pixelWidth)
+{
+    return start >= 0 && start <= largestStart && pixelWidth >= 1
+        && pixelWidth <= largestPixelWidth;
+}
+
+bool CVKDisplayPreferences::takesPeakCount(int count)
+{
+    return count >= 1 && count <= largestPeakCount;
+}
+
+void CVKDisplayPreferences::chooseWavelength(const Wavelength& wavelength)
+{
+    const QPointer<CVKDisplayPreferences> self(this);
+    m_form->lineEditXStart->setText(QString::number(wavelength.start));
+    m_form->lineEditPixelWidth->setText(QString::number(wavelength.pixelWidth));
+    m_form->comboBoxUnits->setCurrentIndex(wavelength.unit); // announces the title
+    if (!self) {
+        return;
+    }
+    if (m_form->comboBoxType->currentIndex() == wavelengthType) {
+        sendWavelength();
+    } else {
+        m_form->comboBoxType->setCurrentIndex(wavelengthType); // announces title and wavelength
+    }
+}
+
+void CVKDisplayPreferences::choosePixelNumbers()
+{
+    m_form->comboBoxType->setCurrentIndex(0);
+}
+
+void CVKDisplayPreferences::choosePeakLabels(bool areShown, int count)
+{
+    const QPointer<CVKDisplayPreferences> self(this);
+    m_form->lineEditPeaks->setText(QString::number(count));
+    sendPeakCount();
+    if (self) {
+        m_form->checkBoxPeak->setChecked(areShown);
+        on_checkBoxPeak_clicked(areShown);
+    }
+}
+
+std::optional<CVKDisplayPreferences::Wavelength> CVKDisplayPreferences::announcedWavelength() const
+{
+    if (!m_announcedWavelength) {
+        return std::nullopt;
+    }
+    return Wavelength { m_announcedWavelength->start, m_announcedWavelength->pixelWidth,
+        m_form->comboBoxUnits->currentIndex() };
 }
 
 /// "Wavelength  (um)"; the unit belongs to wavelengths only. Empty for an unknown type.
@@ -242,14 +327,31 @@ CVKDisplayPreferences::paletteButtons() const
         m_form->pushButtonBlue, m_form->pushButtonColor };
 }
 
-void CVKDisplayPreferences::choosePalette(int index)
+/// The colors of a palette, read from its file at first use; empty without a readable file.
+const QVector<QColor>& CVKDisplayPreferences::readPalette(int index)
 {
     QVector<QColor>& palette = m_palettes[size_t(index)];
     if (palette.isEmpty()) { // never so for Gray
         readPaletteFile(paletteFilePath(m_applicationDirectory, paletteFileName(index)), palette);
     }
+    return palette;
+}
+
+bool CVKDisplayPreferences::choosePaletteIfReadable(int index)
+{
+    if (readPalette(index).isEmpty()) {
+        return false;
+    }
+    choosePalette(index);
+    return true;
+}
+
+void CVKDisplayPreferences::choosePalette(int index)
+{
+    const QVector<QColor> palette = readPalette(index);
     const QPointer<CVKDisplayPreferences> self(this);
     if (!palette.isEmpty()) {
+        m_announcedPalette = index;
         Q_EMIT changePalette(palette);
     }
     if (self) {

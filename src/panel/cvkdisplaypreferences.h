@@ -8,6 +8,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 
 class QPushButton;
 
@@ -31,6 +32,33 @@ public:
     void resetDefaults();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
+
+    /// Wavelengths as they were announced last.
+    struct Wavelength
+    {
+        int start = 0; ///< of the first pixel
+        int pixelWidth = 0;
+        int unit = 0; ///< 0 um, 1 nm
+    };
+
+    static constexpr int paletteCount = 5; // Gray, Red, Green, Blue, Color
+
+    /// What the user does at the controls, with the same signals and the same look afterwards.
+    /// Indices are those of the signals; other ones, and numbers that the fields do not take, are
+    /// not to be passed.
+    void chooseDisplayType(int index);
+    void chooseAxis(int index);
+    /// False, and nothing changes, when the file of the palette cannot be read.
+    bool choosePaletteIfReadable(int index);
+    void chooseWavelength(const Wavelength& wavelength);
+    void choosePixelNumbers();
+    void choosePeakLabels(bool areShown, int count);
+    static bool takesWavelength(int start, int pixelWidth);
+    static bool takesPeakCount(int count);
+
+    int axis() const; ///< 0 X-Axis, 1 Y-Axis
+    int announcedPalette() const { return m_announcedPalette; }
+    std::optional<Wavelength> announcedWavelength() const; ///< nothing for pixel numbers
 
 Q_SIGNALS:
     void switchAxis(int index); ///< 0 X-Axis, 1 Y-Axis
@@ -66,15 +94,15 @@ private Q_SLOTS: // connected by name
     void on_lineEditPixelWidth_textEdited(const QString& arg1);
 
 private:
-    static constexpr int paletteCount = 5; // Gray, Red, Green, Blue, Color
-
     void attachValidators();
     void fillComboBoxes();
     void setPeakGroupEnabled(bool enabled);
     void setUnitRowEnabled(bool enabled);
     void sendWavelength();
+    void sendPeakCount();
     QString axisTitle(int typeIndex, int unitIndex) const;
     std::array<QPushButton*, paletteCount> paletteButtons() const;
+    const QVector<QColor>& readPalette(int index);
     void choosePalette(int index);
     void selectPalette(int index);
     QRect selectionFrame() const;
@@ -84,6 +112,8 @@ private:
     QStringList m_unitNames;
     QStringList m_typeNames;
     std::array<QVector<QColor>, paletteCount> m_palettes; ///< filled at first use
-    int m_currentPalette = 0;
+    int m_currentPalette = 0; ///< whose button is marked
+    int m_announcedPalette = 0; ///< another one after a file that could not be read
+    std::optional<Wavelength> m_announcedWavelength; ///< without the unit
     bool m_isRedirectingWheel = false;
 };

@@ -33,6 +33,7 @@ public:
     const QVector<int>& columnMap() const { return m_columnMap; }
     const QVector<Peak>& peaks() const { return m_detected.peaks; }
     int shownPeaks() const { return m_shownPeaks; }
+    bool arePeaksShown() const { return m_showPeaks; }
     double rangeStart() const { return m_range.start; }
     double rangeEnd() const { return m_range.end; }
 

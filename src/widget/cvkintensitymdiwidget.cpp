@@ -177,9 +177,57 @@ QVector<Wire> CVKIntensityMdiWidget::loadedImageWires() const
 
 bool CVKIntensityMdiWidget::loadImage(const QString& path)
 {
-    if (!m_imageItem || !m_loaders.load(path, &m_image)) {
+    ReadReport report;
+    return loadImage(path, ReadOptions(), &report);
+}
+
+bool CVKIntensityMdiWidget::loadImage(
+    const QString& path, const ReadOptions& options, ReadReport* report)
+{
+    if (!m_imageItem || !m_loaders.load(path, &m_image, options, report)) {
         return false;
     }
+    const bool isFaithful = options.reading == Reading::Faithful;
+    if (isFaithful) {
+        dropOpenImage();
+    }
+    m_analysis.setDisplayRowsPacked(isFaithful);
+    showLoadedImage();
+    return true;
+}
+
+LoadProblem CVKIntensityMdiWidget::showFrame(const FrameView& frame, const ReadOptions& options)
+{
+    const LoadProblem problem = copyFrame(frame, options, &m_image);
+    if (problem == LoadProblem::None) {
+        dropOpenImage();
+        m_analysis.setDisplayRowsPacked(true);
+        showLoadedImage();
+    }
+    return problem;
+}
+
+LoadProblem CVKIntensityMdiWidget::updateFrame(const FrameView& frame, const ReadOptions& options)
+{
+    const LoadProblem problem = overwriteWithFrame(frame, options, &m_image);
+    if (problem == LoadProblem::None) {
+        m_analysis.refreshImageData();
+        updateGrayRange();
+        updateReadoutOfView();
+    }
+    return problem;
+}
+
+/// Undoes what the image before has left: connections, also double ones, and regions.
+void CVKIntensityMdiWidget::dropOpenImage()
+{
+    disconnectAll(loadedImageWires());
+    m_imageItem->rectangles.clear();
+}
+
+/// Shows the record that a loader has just filled.
+void CVKIntensityMdiWidget::showLoadedImage()
+{
     m_imageItem->setImage(nullptr); // the engine is about to replace what the item points at
     m_analysis.setImageData(&m_image);
     m_imageItem->setImage(m_analysis.displayImage);
@@ -193,7 +241,6 @@ bool CVKIntensityMdiWidget::loadImage(const QString& path)
     m_columnChart.reset();
     m_rowChart.valueRuler->setZoom(1.0);
     m_columnChart.valueRuler->setZoom(1.0);
-    return true;
 }
 
 void CVKIntensityMdiWidget::closeImage()
@@ -201,8 +248,7 @@ void CVKIntensityMdiWidget::closeImage()
     if (!m_image.isLoaded()) {
         return;
     }
-    disconnectAll(loadedImageWires());
-    m_imageItem->rectangles.clear();
+    dropOpenImage();
     m_imageItem->setImage(m_analysis.displayImage);
     m_analysis.setImageData(nullptr);
     m_image.release();
@@ -252,6 +298,17 @@ void CVKIntensityMdiWidget::refreshReadout()
         Q_EMIT m_rowChart.curve->changeAnchorPosition(false, m_rowChart.curve->anchorIndex());
     } else {
         Q_EMIT m_columnChart.curve->changeAnchorPosition(true, m_columnChart.curve->anchorIndex());
+    }
+}
+
+/// The read-out of what the visible view shows, without any announcement.
+void CVKIntensityMdiWidget::updateReadoutOfView()
+{
+    if (m_displayType == 0) {
+        changedAnchorImagePosition(QPointF(m_analysis.anchor));
+    } else {
+        const ProfileChart& chart = m_axis == 0 ? m_rowChart : m_columnChart;
+        changedAnchorImagePosition(m_axis == 1, chart.curve->anchorIndex());
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "analysis/imageintensityanalysis.h"
 #include "image/imagedata.h"
+#include "image/frame.h"
 #include "image/imageloadregistry.h"
 #include "widget/profilechart.h"
 
@@ -39,12 +40,29 @@ public:
     /// run once more a signal.
     bool loadImage(const QString& path);
 
+    /// Loads and shows as `options` tell; `report` is never null. With faithful reading rows are
+    /// exact for every width, and what the image before left behind, connections and regions, goes
+    /// first.
+    bool loadImage(const QString& path, const ReadOptions& options, ReadReport* report);
+
+    /// Shows a copy of the frame as a faithful load shows a file.
+    LoadProblem showFrame(const FrameView& frame, const ReadOptions& options);
+
+    /// Shows the next frame, of the size and depth of the image. Everything else stays: view, zoom,
+    /// anchor, palette, regions, charts. The histogram panel and the regions are not touched.
+    LoadProblem updateFrame(const FrameView& frame, const ReadOptions& options);
+
     /// Undoes the connections and releases the image. The last picture stays on the canvas.
     /// Without an image nothing happens.
     void closeImage();
 
     ImageLayoutItem* imageItem() const { return m_imageItem; }
     ImageIntensityAnalysis* analysis() { return &m_analysis; }
+    const ImageIntensityAnalysis* analysis() const { return &m_analysis; }
+    const ImageData& image() const { return m_image; }
+    const ProfileChart& rowChart() const { return m_rowChart; }
+    const ProfileChart& columnChart() const { return m_columnChart; }
+    int displayType() const { return m_displayType; } ///< 0 image view, 1 2D chart
 
 Q_SIGNALS:
     void updateItemNames(QStringList itemNames); ///< part of the interface; not emitted
@@ -76,12 +94,15 @@ private:
     void buildZoomPanel();
     QVector<Wire> imageViewWires() const;
     QVector<Wire> loadedImageWires() const;
+    void dropOpenImage();
+    void showLoadedImage();
     void updateGrayRange();
     const QImage* shownImage() const;
     void layOutImageView(const QSize& canvas);
     void layOutCharts(const QSize& canvas);
     void applyDisplayMode();
     void refreshReadout();
+    void updateReadoutOfView();
     void updateReadout(int x, int y);
     void placeReadout(int canvasHeight);
 

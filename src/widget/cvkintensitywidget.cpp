@@ -25,6 +25,7 @@ CVKIntensityWidget::CVKIntensityWidget(QWidget* parent)
     m_headerSkin.load(QStringLiteral(":img_mdi_res/skin/mdi_mod_header.png"));
     m_borderSkin.load(QStringLiteral(":img_mdi_res/skin/mdi_mod_border.png"));
     createIntensityUI();
+    m_door = std::make_unique<IntensityDoor>(m_host, m_controlPanel, [this] { return state(); });
 }
 
 CVKIntensityWidget::~CVKIntensityWidget()
@@ -93,40 +94,6 @@ void CVKIntensityWidget::connectHistogram()
             engine, SLOT(sendUpdetaIntensityHistogramSignal()) }, // spelled so on purpose
     });
     Q_EMIT histogram->updateIntensityHistogram();
-}
-
-bool CVKIntensityWidget::loadImage(const QString& path)
-{
-    try {
-        if (!m_host || !m_controlPanel || !m_host->loadImage(path)) {
-            return false;
-        }
-        const QPointer<CVKDataHistogram> histogram
-            = m_controlPanel ? m_controlPanel->dataHistogram() : nullptr;
-        if (!histogram) {
-            return false; // the new image stays shown
-        }
-        histogram->resetRoiList();
-        if (histogram) {
-            Q_EMIT histogram->updateIntensityHistogram();
-        }
-        CVKDisplayPreferences* const preferences
-            = m_controlPanel ? m_controlPanel->displayPreferences() : nullptr;
-        if (!preferences) {
-            return false;
-        }
-        preferences->resetDefaults();
-        return true;
-    } catch (...) {
-        return false; // out of memory in a container; nothing is thrown into the application
-    }
-}
-
-void CVKIntensityWidget::closeImage()
-{
-    if (m_host) {
-        m_host->closeImage();
-    }
 }
 
 float CVKIntensityWidget::getDpiMultiple()

@@ -19,6 +19,7 @@
 class CVKIntensityCtrlWidget;
 class CVKIntensityMdiWidget;
 class IntensityDoor;
+struct WidgetState;
 
 /// Shows one camera image with everything needed to examine its intensity: canvas with cross-hair,
 /// row and column profiles, rulers, palette bar and regions of interest, a 2D chart of the row or
@@ -180,7 +181,7 @@ public:
             if (!isCalibrated) {
                 return pixel;
             }
-            return (axis == Axis::Row ? pixel : values.size() - 1 - pixel) * step + start;
+            return (axis == Axis::Row ? pixel : int(values.size()) - 1 - pixel) * step + start;
         }
 
         bool isValid() const { return !values.isEmpty(); }
@@ -376,6 +377,10 @@ private:
     bool createIntensityUI();
     void connectPreferences();
     void connectHistogram();
+    bool showFile(const QString& path, int page);
+    bool resetPanel();
+    void refreshPanel();
+    WidgetState state() const;
 
     QString m_applicationDirectory;
     QPixmap m_sparePixmap;
