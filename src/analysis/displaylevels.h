@@ -9,9 +9,9 @@
 /// Levels per bin that spread min..max over low..high. Infinite or not a number for a single value.
 double displayScale(uchar low, uchar high, uint min, uint max);
 
-/// Level of bin `bin`, counted from the smallest value: bin x scale truncated toward zero, and 255
-/// for everything that is not below 255.
-inline uchar displayLevel(uint bin, double scale)
+/// Level of bin `bin`, counted from the smallest value and perhaps between two whole ones: bin x
+/// scale truncated toward zero, and 255 for everything that is not below 255.
+inline uchar displayLevel(double bin, double scale)
 {
     const double level = bin * scale;
     // Deliberate: a single value has 0 x infinity here, which is not below 255 either.

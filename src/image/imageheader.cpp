@@ -10,6 +10,9 @@
 
 namespace {
 
+constexpr int jpegEnd = 0xD9;
+constexpr int jpegScan = 0xDA;
+
 QByteArray bytesAt(QIODevice* file, qint64 offset, qint64 count)
 {
     return file->seek(offset) ? file->read(count) : QByteArray();
@@ -125,35 +128,39 @@ ImageHeader jpegFrame(int marker, const QByteArray& frame)
     return header;
 }
 
+/// Length of the segment's content, which follows; -1 when it has none.
+int jpegContentBytes(QIODevice* file)
+{
+    const QByteArray length = file->read(2);
+    return length.size() == 2 ? std::max(qFromBigEndian<quint16>(length.constData()) - 2, -1) : -1;
+}
+
 ImageHeader jpegHeader(QIODevice* file)
 {
     constexpr int mostSegments = 4096;
     constexpr int frameBytes = 6;
-    if (!file->seek(2)) {
-        return ImageHeader();
-    }
-    for (int i = 0; i < mostSegments; ++i) {
+    ImageHeader header;
+    bool more = file->seek(2);
+    for (int i = 0; more && i < mostSegments; ++i) {
         const int marker = nextJpegMarker(file);
-        if (marker < 0 || marker == 0xD9 || marker == 0xDA) { // end, or pixels without a frame
-            return ImageHeader();
+        if (marker < 0 || marker == jpegEnd) {
+            return header;
         }
         if (standsAloneInJpeg(marker)) {
             continue;
         }
-        const QByteArray length = file->read(2);
-        const int bytes = length.size() == 2 ? qFromBigEndian<quint16>(length.constData()) : 0;
-        if (bytes < 2) {
-            return ImageHeader();
+        const int bytes = jpegContentBytes(file);
+        if (marker == jpegScan || bytes < 0) {
+            header.jpegPixels = header.isSound && bytes >= 0 ? file->pos() : -1;
+            return header;
         }
-        if (startsJpegFrame(marker)) {
-            const QByteArray frame = file->read(frameBytes);
-            return frame.size() == frameBytes ? jpegFrame(marker, frame) : ImageHeader();
+        const QByteArray frame = startsJpegFrame(marker) ? file->peek(frameBytes) : QByteArray();
+        if (frame.size() == frameBytes && !header.isSound) {
+            header = jpegFrame(marker, frame);
         }
-        if (!file->seek(file->pos() + bytes - 2)) {
-            return ImageHeader();
-        }
+        more = file->seek(file->pos() + bytes);
     }
-    return ImageHeader();
+    return header;
 }
 
 bool isLogEncoded(const TiffPage& page)
@@ -261,4 +268,20 @@ ImageHeader readImageHeader(QIODevice* file, int page)
     }
     const int pageCount = tiffPageCount(file);
     return pageCount > 0 ? tiffHeader(file, page, pageCount) : ImageHeader();
+}
+
+bool holdsJpegEnd(QIODevice* file, const ImageHeader& header)
+{
+    constexpr qint64 chunkBytes = 65536;
+    if (header.jpegPixels < 0) {
+        return true;
+    }
+    const QByteArray marker("\xFF\xD9", 2);
+    for (qint64 end = file->size(); end > header.jpegPixels; end -= chunkBytes) {
+        const qint64 start = std::max(end - chunkBytes, header.jpegPixels);
+        if (bytesAt(file, start, end - start + 1).contains(marker)) { // and the next chunk's first
+            return true;
+        }
+    }
+    return false;
 }

@@ -18,8 +18,9 @@ struct ImageHeader
     bool isSound = false; ///< false: damaged, cut short, or none of the known formats
     bool isUnsupportedKind = false; ///< sound, but of a kind that decoders may refuse
     bool isMisread = false; ///< of a kind that decoders accept, but show as another picture
-    bool isCutShort = false; ///< some of the pixels stand beyond the end of the file
+    bool isCutShort = false; ///< some of a TIFF file's pixels stand beyond its end
     bool hasUnassociatedAlpha = false; ///< decoders may multiply it into the colors
+    qint64 jpegPixels = -1; ///< where the pixels of a JPEG file start; -1: not found, or no JPEG
 };
 
 /// Reads the header of a PNG, BMP, JPEG, TIFF or BigTIFF file; the content decides, not the name.
@@ -27,3 +28,8 @@ struct ImageHeader
 /// pageCount tells all the same. Reads little whatever the file claims; `file` is open and may be
 /// read from any place.
 ImageHeader readImageHeader(QIODevice* file, int page);
+
+/// Whether the end marker of a JPEG file stands behind its pixels; decoders make up the part that
+/// is missing. True for every other format. Reads the file from its end on until the marker is
+/// found.
+bool holdsJpegEnd(QIODevice* file, const ImageHeader& header);

@@ -156,6 +156,7 @@ private:
     const ReadOptions m_options;
     ReadReport& m_report;
     ImageHeader m_header;
+    bool m_isCutShort = false; ///< of a TIFF file, and in faithful reading of a JPEG file
 };
 
 bool CvLoad::isOverLimit(qint64 width, qint64 height) const
@@ -168,6 +169,7 @@ void CvLoad::readHeader()
     QFile file(m_path);
     if (file.open(QIODevice::ReadOnly)) {
         m_header = readImageHeader(&file, m_options.page);
+        m_isCutShort = m_header.isCutShort || (isFaithful() && !holdsJpegEnd(&file, m_header));
     }
 }
 
@@ -186,7 +188,7 @@ LoadProblem CvLoad::headerProblem() const
 /// Kinds of files that would be shown as another picture than they hold.
 LoadProblem CvLoad::kindProblem() const
 {
-    if (m_header.isCutShort) {
+    if (m_isCutShort) {
         return LoadProblem::NotReadable;
     }
     if (m_header.isSound && m_header.channels > 4) {

@@ -107,6 +107,8 @@ private Q_SLOTS:
     void tiff_hostileDirectories_data();
     void tiff_hostileDirectories();
     void jpeg_endlessSegmentsEnd();
+    void jpeg_endMarker_data();
+    void jpeg_endMarker();
 };
 
 void TestImageHeader::sizes_data()
@@ -405,6 +407,39 @@ void TestImageHeader::jpeg_endlessSegmentsEnd()
         bytes += jpegSegment(0xE1, QByteArray());
     }
     QVERIFY(!headerOf(bytes + jpeg(0xC0).mid(2)).isSound);
+}
+
+void TestImageHeader::jpeg_endMarker_data()
+{
+    QTest::addColumn<QByteArray>("pixels");
+    QTest::addColumn<bool>("ended");
+    const QByteArray end("\xFF\xD9", 2);
+    QTest::newRow("at the end") << QByteArray(100, 'p') + end << true;
+    QTest::newRow("with something behind") << QByteArray(100, 'p') + end + "more" << true;
+    QTest::newRow("far from the end") << QByteArray(5, 'p') + end + QByteArray(200000, 'm') << true;
+    // The two bytes stand on both sides of the place 65536 bytes before the end.
+    QTest::newRow("between two pieces")
+        << QByteArray(5, 'p') + end + QByteArray(65535, 'm') << true;
+    QTest::newRow("missing") << QByteArray(200000, 'p') << false;
+    QTest::newRow("half of it") << QByteArray(100, 'p') + end.left(1) << false;
+    QTest::newRow("no pixels") << QByteArray() << false;
+}
+
+void TestImageHeader::jpeg_endMarker()
+{
+    QFETCH(QByteArray, pixels);
+    QFETCH(bool, ended);
+    // A small picture in front has an end of its own.
+    const QByteArray thumbnail = jpegSegment(0xE1, QByteArray("\xFF\xD8\xFF\xD9", 4));
+    QByteArray bytes
+        = jpeg(0xC0).left(2) + thumbnail + jpeg(0xC0).mid(2) + jpegSegment(0xDA, QByteArray());
+    bytes += pixels;
+    QBuffer file(&bytes);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const ImageHeader header = readImageHeader(&file, 0);
+    QVERIFY(header.isSound);
+    QCOMPARE(header.jpegPixels, qint64(bytes.size() - pixels.size()));
+    QCOMPARE(holdsJpegEnd(&file, header), ended);
 }
 
 QTEST_GUILESS_MAIN(TestImageHeader)
