@@ -188,11 +188,28 @@ private:
     std::unique_ptr<quint64[]> m_pairs;
 };
 
-/// Levels of `count` samples, by the formula: that is faster than a map that fits into no cache,
-/// and gives the same levels.
-void storeLevels(const uint* samples, qint64 count, const DisplayLevels& levels, uchar* out)
+/// A check of the map reads this many bins in the time of one lookup that misses the cache.
+constexpr qint64 binsCheckedPerLookup = 128;
+
+/// Whether the levels of `count` samples may come from the formula: it must suit the vectors, and
+/// the map, which anybody may have written into, must still hold what the formula gives. A map that
+/// takes longer to check than its lookups do is not checked.
+bool formulaApplies(qint64 count, const DisplayLevels& levels)
 {
-    if (levels.scale >= 0.0 && std::isfinite(levels.scale) && levels.binCount <= 0x80000000u) {
+    if (!(levels.scale >= 0.0) || !std::isfinite(levels.scale) || levels.binCount > 0x80000000u) {
+        return false;
+    }
+    return !levels.map
+        || (levels.binCount / binsCheckedPerLookup <= count
+            && holdsDisplayLevels(levels.scale, levels.map, levels.binCount));
+}
+
+/// Levels of `count` samples. The formula is faster than a map that fits into no cache, and gives
+/// the same levels where it applies.
+void storeLevels(
+    const uint* samples, qint64 count, const DisplayLevels& levels, bool byFormula, uchar* out)
+{
+    if (byFormula) {
         const uint highest
             = HWY_DYNAMIC_DISPATCH(formulaLevels)(samples, count, levels.min, levels.scale, out);
         if (highest < levels.binCount) {
@@ -241,10 +258,11 @@ void convertToRgb(const uint* samples, qint64 count, const DisplayLevels& levels
     const LevelColors& colors, uchar* rgb)
 {
     const ByteColors byLevel(colorWords(colors), count);
+    const bool byFormula = formulaApplies(count, levels);
     std::array<uchar, chunkSamples> chunk;
     for (qint64 first = 0; first < count; first += chunkSamples) {
         const qint64 length = std::min(chunkSamples, count - first);
-        storeLevels(samples + first, length, levels, chunk.data());
+        storeLevels(samples + first, length, levels, byFormula, chunk.data());
         byLevel.store(chunk.data(), length, rgb + 3 * first);
     }
 }

@@ -21,6 +21,10 @@ inline uchar displayLevel(double bin, double scale)
 /// Writes the levels of the first `binCount` bins.
 void buildDisplayLevels(double scale, uchar* levels, uint binCount);
 
+/// Whether `levels` still holds what buildDisplayLevels() writes. Costs little more than reading
+/// it.
+bool holdsDisplayLevels(double scale, const uchar* levels, uint binCount);
+
 /// How sample values become display levels: by a map, or by the formula where the range is too
 /// wide for one. Lent by the histogram buffer for one call.
 struct DisplayLevels
@@ -38,12 +42,5 @@ struct DisplayLevels
             return 0;
         }
         return map ? map[bin] : displayLevel(bin, scale);
-    }
-
-    /// Same levels, out of the same table.
-    bool operator==(const DisplayLevels& other) const
-    {
-        return min == other.min && binCount == other.binCount && scale == other.scale
-            && map == other.map;
     }
 };

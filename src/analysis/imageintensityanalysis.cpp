@@ -41,7 +41,7 @@ void ImageIntensityAnalysis::setImageData(ImageData* newImage)
     if (!hasImage()) {
         return;
     }
-    m_rendered = Rendering();
+    m_loadColors.reset();
     image->convertToGray();
     histogram.setImageData(image);
     Q_EMIT newHistogramSize(int(histogram.size));
@@ -50,6 +50,9 @@ void ImageIntensityAnalysis::setImageData(ImageData* newImage)
     }
     createDisplayImage();
     drawRect = QRect(0, 0, image->width, image->height);
+    if (m_isLoading && canConvert()) {
+        m_loadColors = levelColors();
+    }
     convertToDisplay();
 }
 
@@ -58,7 +61,6 @@ void ImageIntensityAnalysis::refreshImageData()
     if (!hasImage()) {
         return;
     }
-    m_rendered = Rendering();
     histogram.calcHistogram();
     Q_EMIT newHistogramSize(int(histogram.size));
     if (hasImage()) { // a receiver may have closed it
@@ -114,15 +116,22 @@ void ImageIntensityAnalysis::convertToDisplay()
         convertToRgb(samples, count, histogram.levels(), levelColors(), displayBuffer);
         m_displayMemory.markWritten(size_t(3 * count));
     });
-    m_rendered = Rendering { image->data, displayBuffer, histogram.levels(), levelColors() };
     Q_EMIT updateImage();
 }
 
-/// Whether the display image shows the present pixels in the present colours already.
-bool ImageIntensityAnalysis::isRendered() const
+ImageIntensityAnalysis::LoadScope::LoadScope(ImageIntensityAnalysis* engine)
+    : m_engine(engine)
 {
-    return canConvert() && m_rendered.pixels == image->data && m_rendered.buffer == displayBuffer
-        && m_rendered.levels == histogram.levels() && m_rendered.colors == levelColors();
+    m_engine->m_isLoading = true;
+    m_engine->m_loadColors.reset();
+}
+
+ImageIntensityAnalysis::LoadScope::~LoadScope()
+{
+    if (m_engine) {
+        m_engine->m_isLoading = false;
+        m_engine->m_loadColors.reset();
+    }
 }
 
 LevelColors ImageIntensityAnalysis::levelColors() const
@@ -196,8 +205,10 @@ void ImageIntensityAnalysis::changedColors(QVector<QColor> color)
     if (!image) {
         return;
     }
-    if (isRendered()) {
-        Q_EMIT updateImage(); // the same colours again, as every load brings them
+    const bool isRepetition = m_loadColors && *m_loadColors == levelColors();
+    m_loadColors.reset();
+    if (isRepetition) {
+        Q_EMIT updateImage(); // the load's own announcement
     } else {
         convertToDisplay();
     }

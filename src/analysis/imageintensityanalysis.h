@@ -10,11 +10,13 @@
 #include <QObject>
 #include <QPoint>
 #include <QPointF>
+#include <QPointer>
 #include <QRect>
 #include <QRectF>
 #include <QVector>
 
 #include <array>
+#include <optional>
 
 class ImageData;
 
@@ -60,6 +62,21 @@ public:
     /// every width rightly. False at first: rows are then taken as padded to four bytes.
     void setDisplayRowsPacked(bool arePacked) { m_areRowsPacked = arePacked; }
 
+    /// Stands for one load by the widget around the engine, which announces the colors one extra
+    /// time by itself: while a scope lives, the first announcement of the colors in which its image
+    /// was converted converts nothing. The engine may die first.
+    class LoadScope
+    {
+    public:
+        explicit LoadScope(ImageIntensityAnalysis* engine);
+        ~LoadScope();
+        LoadScope(const LoadScope&) = delete;
+        LoadScope& operator=(const LoadScope&) = delete;
+
+    private:
+        QPointer<ImageIntensityAnalysis> m_engine;
+    };
+
 Q_SIGNALS:
     void updateImage();
     void newHistogramSize(int size);
@@ -74,26 +91,18 @@ Q_SIGNALS:
 public Q_SLOTS:
     void changedDrawRect(QRectF rect);
     void changedIntensityRoi(int selected, QRectF rect);
+    /// Takes the first 256 colours and converts the image as it is now, also with colours that
+    /// are there already: pixels, map and display bytes may have been written since.
     void changedColors(QVector<QColor> color);
     void changedAnchorPosition(QPointF anchorImage);
     void sendUpdetaIntensityHistogramSignal();
 
 private:
-    /// What the last display conversion was made of.
-    struct Rendering
-    {
-        const void* pixels = nullptr;
-        const uchar* buffer = nullptr;
-        DisplayLevels levels;
-        LevelColors colors {};
-    };
-
     void resetTables();
     bool hasImage() const;
     void createDisplayImage();
     bool canConvert() const;
     void convertToDisplay();
-    bool isRendered() const;
     LevelColors levelColors() const;
     void updateLines();
     int verticalSize() const;
@@ -104,5 +113,6 @@ private:
     PixelMemory m_displayMemory;
     qint64 m_displayPixels = 0; ///< pixels that displayBuffer was made for
     bool m_areRowsPacked = false;
-    Rendering m_rendered;
+    bool m_isLoading = false; ///< a LoadScope lives
+    std::optional<LevelColors> m_loadColors; ///< to be announced one extra time in that scope
 };

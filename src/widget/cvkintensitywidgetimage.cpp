@@ -82,6 +82,8 @@ bool CVKIntensityWidget::showFile(const QString& path, int page)
     }
     ReadOptions options = m_door->options;
     options.page = page;
+    // The preferences announce their gray ramp one extra time below.
+    const ImageIntensityAnalysis::LoadScope load(m_host->analysis());
     ReadReport report;
     if (!m_host->loadImage(path, options, &report)) {
         m_door->problem = report.problem;
@@ -121,6 +123,7 @@ bool CVKIntensityWidget::showFrame(const Frame& frame)
         if (!m_host || !m_controlPanel) {
             return false;
         }
+        const ImageIntensityAnalysis::LoadScope load(m_host->analysis());
         m_door->problem = m_host->showFrame(viewOf(frame), m_door->options);
         if (m_door->problem != ::LoadProblem::None) {
             return false;

@@ -108,6 +108,8 @@ private Q_SLOTS:
     void everyBinOfTheFormula();
     void unusualScales_data();
     void unusualScales();
+    void changedMapsAreFollowed_data();
+    void changedMapsAreFollowed();
     void everyByteIsThatOfThePlainLoop();
     void everyByteIsThatOfThePlainLoop_withTables();
 };
@@ -222,6 +224,35 @@ void TestDisplayConversion::unusualScales()
     forEachSimdTarget([&](const char* target) {
         QVERIFY2(converted(samples, levels) == coloursOf(wanted), target);
     });
+}
+
+void TestDisplayConversion::changedMapsAreFollowed_data()
+{
+    QTest::addColumn<uint>("binCount");
+    QTest::addColumn<int>("sampleCount");
+    QTest::newRow("few bins") << 100u << 5000;
+    QTest::newRow("many bins") << 10000u << 5000;
+    QTest::newRow("far more bins than samples") << 1000000u << 100;
+}
+
+void TestDisplayConversion::changedMapsAreFollowed()
+{
+    QFETCH(uint, binCount);
+    QFETCH(int, sampleCount);
+    const double scale = displayScale(0, 255, 0, binCount - 1);
+    std::vector<uchar> map(binCount);
+    plain::displayMap(0, binCount - 1, map.data(), binCount);
+    const DisplayLevels levels { 0, binCount, scale, map.data() };
+    for (const uint changed : { 0u, binCount / 3, binCount / 2, binCount - 1 }) {
+        const uchar before = map[changed];
+        map[changed] = uchar(before + 100);
+        std::vector<int> expected(size_t(sampleCount), map[changed]);
+        expected.front() = map[binCount - 1];
+        std::vector<uint> samples(size_t(sampleCount), changed);
+        samples.front() = binCount - 1;
+        QCOMPARE(converted(samples, levels), coloursOf(expected));
+        map[changed] = before;
+    }
 }
 
 void TestDisplayConversion::everyByteIsThatOfThePlainLoop()

@@ -21,6 +21,8 @@ private Q_SLOTS:
     void buildDisplayLevels_everyLevelIsThatOfThePlainLoop_data();
     void buildDisplayLevels_everyLevelIsThatOfThePlainLoop();
     void buildDisplayLevels_fallingScale();
+    void holdsDisplayLevels_onlyWhatWasBuilt_data();
+    void holdsDisplayLevels_onlyWhatWasBuilt();
     void levels_byMapAndByFormulaAgree();
     void levels_outsideTheBinsAreZero();
 };
@@ -109,6 +111,32 @@ void TestDisplayLevels::buildDisplayLevels_fallingScale()
     QCOMPARE(int(levels[16]), 255); // -1, as a byte
     QCOMPARE(int(levels[4080]), 1); // -255
     QCOMPARE(int(levels[4096]), 0); // -256
+}
+
+void TestDisplayLevels::holdsDisplayLevels_onlyWhatWasBuilt_data()
+{
+    QTest::addColumn<uint>("binCount");
+    for (const uint binCount : { 1u, 2u, 256u, 4096u, 4097u, 70000u }) {
+        QTest::addRow("%u bins", binCount) << binCount;
+    }
+}
+
+void TestDisplayLevels::holdsDisplayLevels_onlyWhatWasBuilt()
+{
+    QFETCH(uint, binCount);
+    const double scale = displayScale(0, 255, 0, binCount - 1);
+    std::vector<uchar> levels(binCount);
+    buildDisplayLevels(scale, levels.data(), binCount);
+    QVERIFY(holdsDisplayLevels(scale, levels.data(), binCount));
+    for (const uint changed : { 0u, 1u, binCount / 2, binCount - 2, binCount - 1 }) {
+        if (changed < binCount) {
+            ++levels[changed];
+            QVERIFY(!holdsDisplayLevels(scale, levels.data(), binCount));
+            --levels[changed];
+        }
+    }
+    QVERIFY(holdsDisplayLevels(scale, levels.data(), binCount));
+    QVERIFY(binCount == 1 || !holdsDisplayLevels(scale * 0.5, levels.data(), binCount));
 }
 
 void TestDisplayLevels::levels_byMapAndByFormulaAgree()

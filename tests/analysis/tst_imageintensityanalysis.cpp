@@ -7,6 +7,7 @@
 
 #include <cmath>
 #include <limits>
+#include <memory>
 
 namespace {
 
@@ -150,7 +151,13 @@ private Q_SLOTS:
     void roi_nestedRequest();
     void roi_closedByAReceiver();
     void roi_otherImageSetByAReceiver();
-    void colors_thatAreShownAlreadyAreOnlyAnnounced();
+    void changedColors_convertsThePresentPixels();
+    void changedColors_convertsThroughThePresentMap_data();
+    void changedColors_convertsThroughThePresentMap();
+    void changedColors_convertsEachTime();
+    void loadScope_sameColoursAreOnlyAnnounced();
+    void loadScope_otherColoursAreConverted();
+    void loadScope_outlivesItsEngine();
 };
 
 void TestImageIntensityAnalysis::startsWithoutAnImage()
@@ -1023,36 +1030,115 @@ void TestImageIntensityAnalysis::roi_otherImageSetByAReceiver()
     QCOMPARE(log.lines.last(), QString("bins [] 1 10 40")); // not the two old bins
 }
 
-void TestImageIntensityAnalysis::colors_thatAreShownAlreadyAreOnlyAnnounced()
+void TestImageIntensityAnalysis::changedColors_convertsThePresentPixels()
 {
     ImageData image;
-    QVERIFY(image.allocate(4, 1, 8, 1));
-    const uchar samples[] = { 0, 85, 170, 255 };
-    std::memcpy(image.data, samples, sizeof(samples));
+    QVERIFY(setGrayImage<uchar>(image, 4, 1, { 0, 85, 170, 255 }));
     ImageIntensityAnalysis engine(&image);
-    QVector<QColor> gray;
-    for (int level = 0; level < 256; ++level) {
-        gray.append(QColor(level, level, level));
-    }
-    QSignalSpy updates(&engine, SIGNAL(updateImage()));
-    engine.changedColors(gray);
-    QCOMPARE(updates.size(), 1);
-    QCOMPARE(engine.displayImage->pixelColor(1, 0), QColor(85, 85, 85));
-    // Other colours, another order of them, and other levels are rendered.
-    engine.changedColors({ Qt::red });
-    QCOMPARE(engine.displayImage->pixelColor(0, 0), QColor(Qt::red));
-    engine.colorIndex[255] = 85;
+    image.data[1] = 255; // in the same memory
     engine.changedColors({});
-    QCOMPARE(engine.displayImage->pixelColor(3, 0), QColor(85, 85, 85));
+    QCOMPARE(displayBytes(engine, 6), (QVector<int> { 0, 0, 0, 255, 255, 255 }));
+}
+
+void TestImageIntensityAnalysis::changedColors_convertsThroughThePresentMap_data()
+{
+    QTest::addColumn<int>("bitDepth");
+    QTest::addColumn<int>("largest");
+    QTest::newRow("8 bits") << 8 << 255;
+    QTest::newRow("16 bits") << 16 << 65535;
+    QTest::newRow("32 bits, few bins") << 32 << 255;
+    QTest::newRow("32 bits, many bins") << 32 << 1000000;
+}
+
+void TestImageIntensityAnalysis::changedColors_convertsThroughThePresentMap()
+{
+    QFETCH(int, bitDepth);
+    QFETCH(int, largest);
+    const int width = 100000; // many more than the bins' first few, and not a chunk's multiple
+    ImageData image;
+    QVERIFY(image.allocate(width, 1, bitDepth, 1));
+    const auto put = [&](int x, uint value) {
+        const size_t sampleBytes = size_t(bitDepth) / 8;
+        uchar* const sample = image.data + size_t(x) * sampleBytes;
+        switch (bitDepth) {
+        case 8: *sample = uchar(value); break;
+        case 16: *reinterpret_cast<ushort*>(sample) = ushort(value); break;
+        case 32: *reinterpret_cast<uint*>(sample) = value; break;
+        }
+    };
+    put(1, uint(largest));
+    put(width - 1, uint(largest));
+    ImageIntensityAnalysis engine(&image);
+    QCOMPARE(displayBytes(engine, 6), (QVector<int> { 0, 0, 0, 255, 255, 255 }));
+
+    engine.histogram.displayMap[largest] = 9;
+    engine.changedColors({});
+    QCOMPARE(displayBytes(engine, 6), (QVector<int> { 0, 0, 0, 9, 9, 9 }));
+    QCOMPARE(int(engine.displayBuffer[3 * width - 1]), 9);
+
+    engine.histogram.displayMap[largest] = 255; // as it was
+    engine.changedColors({});
+    QCOMPARE(displayBytes(engine, 6), (QVector<int> { 0, 0, 0, 255, 255, 255 }));
+}
+
+void TestImageIntensityAnalysis::changedColors_convertsEachTime()
+{
+    ImageData image;
+    QVERIFY(setGrayImage<uchar>(image, 4, 1, { 0, 85, 170, 255 }));
+    ImageIntensityAnalysis engine(&image);
+    QSignalSpy updates(&engine, SIGNAL(updateImage()));
+    engine.displayBuffer[3] = 7; // not what the pixels show
+    engine.changedColors({});
+    QCOMPARE(displayBytes(engine, 6), (QVector<int> { 0, 0, 0, 85, 85, 85 }));
     engine.histogram.buildDisplayMap(0, 51); // a fifth of the levels
     engine.changedColors({});
-    QCOMPARE(engine.displayImage->pixelColor(1, 0), QColor(17, 17, 17));
+    QCOMPARE(displayBytes(engine, 6), (QVector<int> { 0, 0, 0, 17, 17, 17 }));
+    QCOMPARE(updates.size(), 2);
+}
+
+void TestImageIntensityAnalysis::loadScope_sameColoursAreOnlyAnnounced()
+{
+    ImageData image;
+    QVERIFY(setGrayImage<uchar>(image, 4, 1, { 0, 85, 170, 255 }));
+    ImageIntensityAnalysis engine(nullptr);
+    QSignalSpy updates(&engine, SIGNAL(updateImage()));
+    {
+        const ImageIntensityAnalysis::LoadScope scope(&engine);
+        engine.setImageData(&image);
+        engine.displayBuffer[3] = 7;
+        engine.changedColors({});
+        QCOMPARE(int(engine.displayBuffer[3]), 7);
+        QCOMPARE(updates.size(), 2);
+    }
+    engine.changedColors({}); // the load is over
+    QCOMPARE(int(engine.displayBuffer[3]), 85);
+    const ImageIntensityAnalysis::LoadScope scope(&engine);
+    engine.displayBuffer[3] = 7;
+    engine.changedColors({}); // nothing was converted within this load
+    QCOMPARE(int(engine.displayBuffer[3]), 85);
     QCOMPARE(updates.size(), 4);
-    // So is another image.
-    ImageData next;
-    QVERIFY(next.allocate(4, 1, 8, 1));
-    engine.setImageData(&next);
-    QCOMPARE(updates.size(), 5);
+}
+
+void TestImageIntensityAnalysis::loadScope_otherColoursAreConverted()
+{
+    ImageData image;
+    QVERIFY(setGrayImage<uchar>(image, 4, 1, { 0, 85, 170, 255 }));
+    ImageIntensityAnalysis engine(nullptr);
+    const ImageIntensityAnalysis::LoadScope scope(&engine);
+    engine.setImageData(&image);
+    engine.changedColors({ Qt::red });
+    QCOMPARE(displayBytes(engine, 3), (QVector<int> { 255, 0, 0 }));
+    ImageData other;
+    QVERIFY(setGrayImage<uchar>(other, 4, 1, { 255, 0, 0, 0 }));
+    engine.setImageData(&other); // another image in the same colours
+    QCOMPARE(displayBytes(engine, 3), (QVector<int> { 255, 255, 255 }));
+}
+
+void TestImageIntensityAnalysis::loadScope_outlivesItsEngine()
+{
+    auto engine = std::make_unique<ImageIntensityAnalysis>(nullptr);
+    const ImageIntensityAnalysis::LoadScope scope(engine.get());
+    engine.reset(); // the sanitizer sees a scope that touches it at its end
 }
 
 QTEST_GUILESS_MAIN(TestImageIntensityAnalysis)

@@ -48,6 +48,7 @@ private Q_SLOTS:
     void panel_isDestroyedBeforeTheHost();
     void close_leavesThePanels();
     void addAndDelete_sendTheirSignalsInOrder();
+    void load_convertsOnce();
     void load_letsNothingBeThrown();
     void load_andClose_manyTimes();
     void close_beforeAnyLoad();
@@ -411,6 +412,23 @@ void TestCVKIntensityWidget::addAndDelete_sendTheirSignalsInOrder()
     QCOMPARE(order, (QStringList { "select -2", "counts", "whole", "names ", "delete 0" }));
     QCOMPARE(widget.findChild<QLabel*>("labelValueMean")->text(), QString());
     QVERIFY(!widget.findChild<QPushButton*>("pushButtonDelete")->isEnabled());
+}
+
+void TestCVKIntensityWidget::load_convertsOnce()
+{
+    CVKIntensityWidget widget;
+    widget.resize(1000, 700);
+    ImageIntensityAnalysis* const engine = widget.findChild<CVKIntensityMdiWidget*>()->analysis();
+    int conversions = 0;
+    connect(engine, &ImageIntensityAnalysis::updateImage, this, [&] {
+        conversions += engine->displayBuffer[0] == 77 ? 0 : 1;
+        engine->displayBuffer[0] = 77; // not what the pixel shows
+    });
+    QVERIFY(widget.loadImage(path("frame.raw")));
+    QCOMPARE(conversions, 1); // the reset's grey is not converted again
+    // The same grey announced later on is.
+    widget.findChild<CVKDisplayPreferences*>()->resetDefaults();
+    QCOMPARE(conversions, 2);
 }
 
 void TestCVKIntensityWidget::load_letsNothingBeThrown()
