@@ -113,6 +113,7 @@ private Q_SLOTS:
     void setImage_nullIsSilent();
     void setImage_ofANullImageCountsAsNoImage();
     void setSize_adaptsTheContent();
+    void setSize_ofAThinImage();
     void setSize_withoutImageOnlyMovesTheCross();
     void setSize_belowFourUnitsStopsZoomAndScroll();
     void zoomIn_isLimitedToTheLargestScale();
@@ -267,6 +268,15 @@ void TestImageLayoutItem::setSize_adaptsTheContent()
     // ceil(499 x 200 / 500) = ceil(199.6)
     QCOMPARE(log.lines,
         (QStringList { "size 1000x500", "cross 200,200", "rect 0,0 1000x500", "cross 200,200" }));
+}
+
+void TestImageLayoutItem::setSize_ofAThinImage()
+{
+    Stage stage(2000, 100); // 20 : 1 in 400 x 20: raised to 4 : 1
+    stage.item->setSize(400.0, 400.0);
+    QCOMPARE(stage.item->size, QSizeF(400.0, 100.0));
+    QVERIFY(stage.item->minScale == 0.2); // 400 / 2000, below 100 / 100
+    QCOMPARE(stage.item->boundingRect(), QRectF(0.0, 0.0, 402.0, 102.0));
 }
 
 void TestImageLayoutItem::setSize_withoutImageOnlyMovesTheCross()
@@ -534,6 +544,7 @@ void TestImageLayoutItem::repaintsAfterPressViewChangeAndNewPixels()
     QVERIFY(repaints([&] { stage.item->scrollDistanceVertical(-1); }));
     QVERIFY(repaints([&] { stage.item->fit(); }));
     QVERIFY(repaints([&] { stage.item->updateImage(); }));
+    QVERIFY(repaints([&] { stage.item->resetAnchor(); })); // the cross lies outside its own bounds
 }
 
 void TestImageLayoutItem::withoutImage_everyViewChangeDoesNothing()
