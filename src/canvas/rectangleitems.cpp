@@ -1,6 +1,7 @@
 #include "canvas/rectangleitems.h"
 
 #include "canvas/imagelayoutitem.h"
+#include "image/saturate.h"
 
 #include <QImage>
 #include <QPointer>
@@ -69,8 +70,8 @@ void RectangleItems::addItem()
     if (defaultSize.height() > image.height()) {
         defaultSize.setHeight(image.height() / 8);
     }
-    const QPointF origin(int(image.width() - defaultSize.width()) / 2,
-        int(image.height() - defaultSize.height()) / 2);
+    const QPointF origin(truncated(image.width() - defaultSize.width()) / 2,
+        truncated(image.height() - defaultSize.height()) / 2);
     QRectF onItem = imageItem->mapRectFromImage(QRectF(origin, defaultSize));
     imageItem->snapRect(onItem);
     // Deliberate: the view is connected again at every add, and never disconnected: the slot runs
@@ -258,8 +259,8 @@ bool RectangleItems::isProjected(const View& view) const
         const Projected& projected = m_projected.at(i);
         const RectangleItem& item = *items.at(i);
         if (!isSame(projected.imageRect, rects.at(i))
-            || !isSame(projected.area, item.parentBounding) || !isSame(projected.rect, item.rect)
-            || !isSame(projected.handles, item.handles)) {
+            || !isSame(projected.area, item.parentBounding) || projected.margin != item.margin
+            || !isSame(projected.rect, item.rect) || !isSame(projected.handles, item.handles)) {
             return false;
         }
     }
@@ -274,7 +275,7 @@ void RectangleItems::project(int index, const View& view)
     imageItem->snapRect(onItem);
     item.setRect(onItem);
     m_projected[index]
-        = Projected { rects.at(index), item.parentBounding, item.rect, item.handles };
+        = Projected { rects.at(index), item.parentBounding, item.margin, item.rect, item.handles };
 }
 
 void RectangleItems::numberItems()

@@ -61,6 +61,7 @@ private:
     {
         QRectF imageRect;
         QRectF area;
+        int margin = 0;
         QRectF rect;
         QVector<QPointF> handles;
     };

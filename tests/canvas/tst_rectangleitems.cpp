@@ -8,6 +8,8 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <limits>
+
 namespace {
 
 /// Tells how many slots a change of view runs.
@@ -89,7 +91,10 @@ private Q_SLOTS:
     void initTestCase();
     void metaObject();
     void add_centresTheFirstRegion();
+    void add_atOneUnitAPixel();
     void add_shrinksTheDefaultForGood();
+    void add_ofAnImpossibleDefault_data();
+    void add_ofAnImpossibleDefault();
     void add_withoutImage();
     void add_preparesTheItem();
     void add_announcesInOrder();
@@ -105,9 +110,11 @@ private Q_SLOTS:
     void drag_ofAnotherThanTheSelectedOne();
     void changedRoi_ignoresWhatItDoesNotKnow();
     void snapping_atScale12();
+    void snapping_aboveScale12();
     void viewChange_keepsTheImageRectangles();
     void viewChange_runsOncePerAdd();
     void viewChange_noticesWhatSomebodyMoved();
+    void viewChange_noticesAChangedMargin();
     void viewChange_ofNothingIsIgnored();
     void regions_outliveALargerImage();
     void regions_withoutContent();
@@ -151,6 +158,16 @@ void TestRectangleItems::add_centresTheFirstRegion()
     QCOMPARE(stage.regions.names, QStringList { "ROI 1" });
 }
 
+void TestRectangleItems::add_atOneUnitAPixel()
+{
+    Stage stage(QSize(1000, 800), QSizeF(1000.0, 800.0));
+    QVERIFY(stage.image->scale == 1.0);
+    stage.regions.addItem();
+    // int(1000 - 300) / 2 and int(800 - 300) / 2, in units as in pixels
+    QCOMPARE(stage.regions.items.first()->rect, QRectF(350.0, 250.0, 300.0, 300.0));
+    QCOMPARE(stage.regions.rects.first(), QRectF(350.0, 250.0, 301.0, 301.0)); // to 650 and 550
+}
+
 void TestRectangleItems::add_shrinksTheDefaultForGood()
 {
     Stage stage(QSize(200, 100));
@@ -165,6 +182,26 @@ void TestRectangleItems::add_shrinksTheDefaultForGood()
     // ceil(204.4), 394 to 405 become ceil(157.6) and ceil(162).
     QCOMPARE(stage.regions.items.last()->rect, QRectF(195.0, 158.0, 11.0, 5.0));
     stage.image->setImage(nullptr);
+}
+
+void TestRectangleItems::add_ofAnImpossibleDefault_data()
+{
+    QTest::addColumn<double>("extent");
+    QTest::addColumn<double>("origin");
+    QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << 0.0;
+    // Half of 2^30 on, which is moved to the last but one column of the image.
+    QTest::newRow("far below zero") << -1e300 << 398.0;
+}
+
+void TestRectangleItems::add_ofAnImpossibleDefault()
+{
+    QFETCH(double, extent);
+    QFETCH(double, origin);
+    Stage stage(QSize(400, 400)); // one unit a pixel
+    stage.regions.defaultSize = QSizeF(extent, extent);
+    stage.regions.addItem();
+    QCOMPARE(stage.regions.items.size(), 1);
+    QCOMPARE(stage.regions.rects.first().topLeft(), QPointF(origin, origin));
 }
 
 void TestRectangleItems::add_withoutImage()
@@ -363,6 +400,20 @@ void TestRectangleItems::changedRoi_ignoresWhatItDoesNotKnow()
 
 void TestRectangleItems::snapping_atScale12()
 {
+    Stage stage(QSize(40, 40), QSizeF(480.0, 480.0)); // 40 cells of 12 units
+    QVERIFY(stage.image->scale == 12.0);
+    stage.regions.addItem(); // 40 / 8 pixels from int(40 - 5) / 2 on
+    const RectangleItem* const item = stage.regions.items.first();
+    // Corners 17 x 12 and 21 x 12, to 253 with the last unit: the middles of cells 17 and 21.
+    QCOMPARE(item->rect, QRectF(210.0, 210.0, 48.0, 48.0));
+    // Dragged to (172.7, 168.1) and (220.7, 216.1): cells 14 and 18.
+    stage.drag(stage.regions.items.first(), item->rect.center(),
+        item->rect.center() - QPointF(37.3, 41.9));
+    QCOMPARE(item->rect, QRectF(174.0, 174.0, 48.0, 48.0));
+}
+
+void TestRectangleItems::snapping_aboveScale12()
+{
     Stage stage(QSize(100, 100), QSizeF(400.0, 400.0)); // 4 units a pixel
     stage.image->zoomIn(); // 6
     stage.image->zoomIn(); // 9
@@ -435,6 +486,19 @@ void TestRectangleItems::viewChange_noticesWhatSomebodyMoved()
     item->rect.moveLeft(item->rect.left() + 1e-13); // too small a step for a fuzzy comparison
     stage.image->fit();
     QVERIFY(item->rect.left() == 1.0);
+}
+
+void TestRectangleItems::viewChange_noticesAChangedMargin()
+{
+    Stage stage(QSize(400, 400)); // one unit a pixel
+    stage.regions.addItem();
+    stage.regions.rects[0] = QRectF(0.0, 0.0, 100.0, 100.0);
+    stage.image->fit();
+    RectangleItem* const item = stage.regions.items.first();
+    QCOMPARE(item->rect, QRectF(1.0, 1.0, 100.0, 100.0)); // out of the frame
+    item->margin = 50;
+    stage.image->fit(); // the same view
+    QCOMPARE(item->rect, QRectF(50.0, 50.0, 100.0, 100.0));
 }
 
 void TestRectangleItems::viewChange_ofNothingIsIgnored()
