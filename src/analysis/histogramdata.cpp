@@ -25,14 +25,21 @@ bool fitsIntoBins(uint min, uint max)
     return values >= 1 && values <= largestBinCount;
 }
 
-/// The block of `memory` as `count` elements; null when there is no memory for them.
+/// A block of `count` elements in `memory`; null when there is no memory for them. An old block of
+/// another size is freed first, one of the same size is taken again with what it holds.
 template <class Element>
 Element* elements(PixelMemory& memory, quint64 count)
 {
-    if (!memory.acquire(size_t(count) * sizeof(Element))) {
-        memory.discard();
-    }
+    memory.release();
+    memory.acquire(size_t(count) * sizeof(Element));
     return reinterpret_cast<Element*>(memory.data());
+}
+
+/// To be called before a block is handed out in a public field: whatever is written there is zeroed
+/// by the next count.
+void handOut(PixelMemory& memory)
+{
+    memory.markWritten(memory.size());
 }
 
 /// A line buffer of zeros.
@@ -40,7 +47,7 @@ uchar* zeroedLine(PixelMemory& memory, int length)
 {
     uchar* line = elements<uchar>(memory, quint64(std::max(length, 0)));
     memory.zeroFrom(0);
-    memory.markWritten(memory.size());
+    handOut(memory);
     return line;
 }
 
@@ -83,7 +90,6 @@ void HistogramData::calcHistogram()
     });
     if (fitsIntoBins(min, max) && size != 0) {
         displayMap = elements<uchar>(m_mapMemory, size);
-        m_mapMemory.markWritten(m_mapMemory.size());
     }
     buildDisplayMap(0, 255);
 }
@@ -116,14 +122,14 @@ void HistogramData::rebuildCounts(const uint* samples, int count)
 void HistogramData::clearHistogram()
 {
     m_histogramMemory.zeroFrom(0);
-    m_histogramMemory.markWritten(m_histogramMemory.size());
+    handOut(m_histogramMemory);
 }
 
 void HistogramData::takeCounts(const uint* counts)
 {
     if (histogram) {
         std::memcpy(histogram, counts, m_histogramMemory.size());
-        m_histogramMemory.markWritten(m_histogramMemory.size());
+        handOut(m_histogramMemory);
     }
 }
 
@@ -132,6 +138,7 @@ void HistogramData::createHistogramBuffer(const Sample* samples, int count)
 {
     if (samples) {
         adoptRange(sampleRange(samples, count));
+        handOut(m_histogramMemory);
     }
 }
 
@@ -174,6 +181,12 @@ void HistogramData::buildDisplayMap(uchar low, uchar high)
 
 void HistogramData::prepareRoiHistogram(uint newMin, uint newMax)
 {
+    adoptRoiRange(newMin, newMax);
+    handOut(m_roiMemory);
+}
+
+void HistogramData::adoptRoiRange(uint newMin, uint newMax)
+{
     roiMax = newMax;
     roiMin = newMin;
     const uint bins = newMax - newMin + 1;
@@ -193,14 +206,18 @@ void HistogramData::calcRoiHistogram(uint newMin, uint newMax, const QRect& roi)
     if (!hasImage() || roi.right() > image->width || roi.bottom() > image->height) {
         return;
     }
-    prepareRoiHistogram(newMin, newMax);
-    if (!roiHistogram || !(histogram || isTooWideForBins())) {
-        return;
+    adoptRoiRange(newMin, newMax);
+    if (roiHistogram && (histogram || isTooWideForBins())) {
+        countRoi(roi);
     }
+    handOut(m_roiMemory);
+}
+
+void HistogramData::countRoi(const QRect& roi)
+{
     forSampleWidth(std::as_const(*image), [this, &roi](const auto* samples) {
         using Sample = std::decay_t<decltype(*samples)>;
         m_roiMemory.zeroFrom(0);
-        m_roiMemory.markWritten(m_roiMemory.size());
         const RoiRows rows { roi, image->width, allocatedSamples<Sample>(*image) };
         fillRoiHistogram(samples, rows);
     });

@@ -47,8 +47,9 @@ public:
     /// the range and the counts stay as they were.
     void calcHistogram();
 
-    /// Finds the range of `count` samples and gives the histogram room for it; the counts hold
-    /// nothing yet. Samples are uchar, ushort or uint. Null: nothing changes.
+    /// Finds the range of `count` samples and gives the histogram room for it; what the counts hold
+    /// is undefined until they are filled. Samples are uchar, ushort or uint. Null: nothing
+    /// changes.
     template <class Sample>
     void createHistogramBuffer(const Sample* samples, int count);
 
@@ -60,7 +61,8 @@ public:
     /// the levels that come from the formula.
     void buildDisplayMap(uchar low, uchar high);
 
-    /// Gives the ROI histogram the bins min..max. No bins for max < min or more than 2^26 values.
+    /// Gives the ROI histogram the bins min..max, whose counts are undefined until a region is
+    /// counted. No bins for max < min or more than 2^26 values.
     void prepareRoiHistogram(uint min, uint max);
 
     /// Counts the pixels of `roi` (inclusive corners, image pixels) into the bins min..max. Nothing
@@ -98,7 +100,9 @@ private:
     void rebuildCounts(const uint* samples, int count);
     template <class Sample>
     void fillRoiHistogram(const Sample* samples, const RoiRows& rows);
+    void countRoi(const QRect& roi);
     void adoptRange(const SampleRange& range);
+    void adoptRoiRange(uint min, uint max);
     void clearHistogram();
     void takeCounts(const uint* counts);
 

@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <QtTest>
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -97,6 +98,8 @@ private Q_SLOTS:
     void createHistogramBuffer_withoutSamples_data();
     void createHistogramBuffer_withoutSamples();
     void fillHistogram_worksAlone();
+    void fillHistogram_zeroesWhatSomebodyWrote_data();
+    void fillHistogram_zeroesWhatSomebodyWrote();
     void fillHistogram_leavesOutValuesWithoutABin();
     void fullRange_hasNoBinsAndNoMap();
     void wideRange_levelsComeFromTheFormula();
@@ -109,6 +112,8 @@ private Q_SLOTS:
     void calcRoiHistogram_countsTheRegion();
     void calcRoiHistogram_ofEachDepth();
     void calcRoiHistogram_emptyRowsZeroTheBins();
+    void calcRoiHistogram_zeroesWhatSomebodyWrote();
+    void calcRoiHistogram_zeroesBinsOfAnotherDepth();
     void calcRoiHistogram_edgesOnePixelBeyond();
     void calcRoiHistogram_rejectedBeyond_data();
     void calcRoiHistogram_rejectedBeyond();
@@ -427,6 +432,37 @@ void TestHistogramData::fillHistogram_worksAlone()
     QCOMPARE(countsOf(data.histogram, 3), (QVector<uint> { 0, 0, 0 }));
 }
 
+void TestHistogramData::fillHistogram_zeroesWhatSomebodyWrote_data()
+{
+    QTest::addColumn<uint>("largest");
+    QTest::newRow("few bins") << 4u;
+    QTest::newRow("many bins") << 3000000u;
+}
+
+void TestHistogramData::fillHistogram_zeroesWhatSomebodyWrote()
+{
+    QFETCH(uint, largest);
+    const uint samples[] = { 0, largest };
+    HistogramData data(nullptr);
+    data.createHistogramBuffer(samples, 2);
+    std::fill_n(data.histogram, data.size, 7u); // through the public field, before any count
+    data.fillHistogram(samples, 2);
+    QCOMPARE(data.histogram[0], 1u);
+    QCOMPARE(data.histogram[largest], 1u);
+    QVERIFY(std::all_of(
+        data.histogram + 1, data.histogram + largest, [](uint count) { return count == 0; }));
+
+    // Bins that were handed out and written are counted afresh by a load of the same range, too.
+    ImageData image;
+    QVERIFY(setGrayImage<uint>(image, 2, 1, { 0, largest + 1 }));
+    data.createHistogramBuffer(reinterpret_cast<const uint*>(image.data), 2);
+    std::fill_n(data.histogram, data.size, 7u);
+    data.setImageData(&image);
+    QCOMPARE(data.histogram[0], 1u);
+    QVERIFY(std::all_of(
+        data.histogram + 1, data.histogram + largest + 1, [](uint count) { return count == 0; }));
+}
+
 void TestHistogramData::fillHistogram_leavesOutValuesWithoutABin()
 {
     HistogramData data(nullptr);
@@ -591,6 +627,42 @@ void TestHistogramData::calcRoiHistogram_emptyRowsZeroTheBins()
     data.calcRoiHistogram(1, 3, QRect(0, 0, 2, 2));
     data.calcRoiHistogram(1, 3, QRect(QPoint(1, 0), QPoint(0, 1))); // no columns
     QCOMPARE(countsOf(data.roiHistogram, 3), (QVector<uint> { 0, 0, 0 }));
+}
+
+void TestHistogramData::calcRoiHistogram_zeroesWhatSomebodyWrote()
+{
+    ImageData image;
+    QVERIFY(setGrayImage<ushort>(image, 2, 2, { 10, 11, 12, 13 }));
+    HistogramData data(&image);
+    const QVector<uint> none(5, 0);
+    // On a fresh buffer, by a region without rows: bottom = top - 1.
+    data.prepareRoiHistogram(10, 14);
+    std::fill_n(data.roiHistogram, 5, 9u);
+    data.calcRoiHistogram(10, 14, QRect(QPoint(0, 1), QPoint(1, 0)));
+    QCOMPARE(countsOf(data.roiHistogram, 5), none);
+    // And by one with rows.
+    data.prepareRoiHistogram(10, 15);
+    std::fill_n(data.roiHistogram, 6, 9u);
+    data.calcRoiHistogram(10, 15, QRect(0, 0, 2, 2));
+    QCOMPARE(countsOf(data.roiHistogram, 6), (QVector<uint> { 1, 1, 1, 1, 0, 0 }));
+    std::fill_n(data.roiHistogram, 6, 9u);
+    data.calcRoiHistogram(10, 15, QRect(QPoint(0, 1), QPoint(1, 0)));
+    QCOMPARE(countsOf(data.roiHistogram, 6), QVector<uint>(6, 0));
+}
+
+/// A depth that nothing counts gets bins all the same; what is written into them must not last.
+void TestHistogramData::calcRoiHistogram_zeroesBinsOfAnotherDepth()
+{
+    ImageData image;
+    QVERIFY(setGrayImage<uchar>(image, 2, 1, { 10, 11 }));
+    HistogramData data(&image);
+    image.bitDepth = 12;
+    data.calcRoiHistogram(10, 12, QRect(0, 0, 2, 1));
+    QVERIFY(data.roiHistogram);
+    std::fill_n(data.roiHistogram, 3, 9u);
+    image.bitDepth = 8;
+    data.calcRoiHistogram(10, 12, QRect(0, 0, 2, 1));
+    QCOMPARE(countsOf(data.roiHistogram, 3), (QVector<uint> { 1, 1, 0 }));
 }
 
 void TestHistogramData::calcRoiHistogram_edgesOnePixelBeyond()

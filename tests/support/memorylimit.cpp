@@ -1,12 +1,6 @@
 #include "support/memorylimit.h"
 
-#if defined(__SANITIZE_ADDRESS__)
-#define VKINTENSITY_ADDRESS_SANITIZER
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define VKINTENSITY_ADDRESS_SANITIZER
-#endif
-#endif
+#include "support/addresssanitizer.h"
 
 #if defined(VKINTENSITY_ADDRESS_SANITIZER)
 
