@@ -95,6 +95,28 @@ LoadProblem take(const DecodedSamples& samples, ImageData& image)
     return LoadProblem::None;
 }
 
+bool areLowBitsZero(const DecodedSamples& samples)
+{
+    const uint lowBits = (1u << samples.unusedLowBits) - 1;
+    uint found = 0;
+    for (int row = 0; row < samples.height; ++row) {
+        const auto* line = lineOf<quint16>(samples, row);
+        for (qint64 i = 0; i < qint64(samples.width) * samples.channels; ++i) {
+            found |= line[i];
+        }
+    }
+    return (found & lowBits) == 0;
+}
+
+/// The samples with the number of low bits that really are to be taken away.
+DecodedSamples withKnownLowBits(DecodedSamples samples)
+{
+    const bool isKnown = samples.bytesPerSample == 2 && samples.kind == SampleKind::Unsigned
+        && samples.unusedLowBits > 0 && areLowBitsZero(samples);
+    samples.unusedLowBits = isKnown ? samples.unusedLowBits : 0;
+    return samples;
+}
+
 LoadProblem takeByType(const DecodedSamples& samples, ImageData& image)
 {
     const bool isSigned = samples.kind == SampleKind::Signed;
@@ -124,7 +146,7 @@ LoadProblem takeFaithfully(const DecodedSamples& samples, ImageData& image, Read
     }
     const bool isHalfFloat = samples.kind == SampleKind::Floating && samples.bytesPerSample < 4;
     const LoadProblem problem
-        = isHalfFloat ? LoadProblem::UnfaithfulDepth : takeByType(samples, image);
+        = isHalfFloat ? LoadProblem::UnfaithfulDepth : takeByType(withKnownLowBits(samples), image);
     if (problem == LoadProblem::None) {
         report.isAlphaDropped
             = report.isAlphaDropped || samples.channels == 2 || samples.channels == 4;

@@ -17,7 +17,9 @@ struct DecodedSamples
     int channels = 1;
     int bytesPerSample = 1;
     SampleKind kind = SampleKind::Unsigned;
-    int unusedLowBits = 0; ///< below the value in each unsigned sample of 16 bits; all zero
+    /// Bits below the value in unsigned samples of 16 bits, where some decoders leave zeros.
+    /// Samples in which they are not all zero are taken as they stand.
+    int unusedLowBits = 0;
 };
 
 /// Makes `image` the picture that the samples hold, with one or three channels of unsigned numbers
