@@ -5,6 +5,7 @@
 #include "plots/intensitycurvehorizontal.h"
 #include "plots/intensitycurvevertical.h"
 #include "plots/rulerbarhorizontal.h"
+#include "plots/rulerbarvertical.h"
 #include "support/sampleframes.h"
 #include "widget/cvkintensitymdiwidget.h"
 #include "widget/cvkintensitywidget.h"
@@ -24,7 +25,9 @@
 
 using Widget = CVKIntensityWidget;
 
-Q_DECLARE_METATYPE(CVKIntensityWidget::LoadProblem)
+using FrameChange = std::function<void(Widget::Frame*)>;
+
+Q_DECLARE_METATYPE(FrameChange)
 
 namespace {
 
@@ -456,9 +459,9 @@ void TestFrames::frames_ofOddWidths()
 
 void TestFrames::badFrames_areRefused_data()
 {
-    using Change = std::function<void(Widget::Frame*)>;
-    QTest::addColumn<Change>("change");
-    const auto row = [](const char* name, const Change& change) { QTest::newRow(name) << change; };
+    QTest::addColumn<FrameChange>("change");
+    const auto row
+        = [](const char* name, const FrameChange& change) { QTest::newRow(name) << change; };
     const int most = std::numeric_limits<int>::max();
     const int least = std::numeric_limits<int>::min();
     row("no samples", [](Widget::Frame* frame) { frame->samples = nullptr; });
@@ -485,8 +488,7 @@ void TestFrames::badFrames_areRefused_data()
 
 void TestFrames::badFrames_areRefused()
 {
-    using Change = std::function<void(Widget::Frame*)>;
-    QFETCH(Change, change);
+    QFETCH(FrameChange, change);
     const TestFrame good = pattern(8, 8, 1, 2, 1, 16);
     const auto widget = visibleWidget();
     QVERIFY(widget->showFrame(good.frame()));
