@@ -385,7 +385,6 @@ void CVKIntensityMdiWidget::updateReadout(int x, int y)
     m_readout->setPlainText(
         readoutText(pixel, m_image, axisOf(*m_rowChart.pixelRuler, m_image.width),
             axisOf(*m_columnChart.pixelRuler, m_image.height)));
-    placeReadout(height());
     update();
 }
 
@@ -396,15 +395,8 @@ void CVKIntensityMdiWidget::resizeEvent(QResizeEvent* event)
     m_scene->setSceneRect(0.0, 0.0, canvas.width(), canvas.height());
     layOutCharts(canvas);
     layOutImageView(canvas);
-    placeReadout(canvas.height());
-}
-
-/// Puts the read-out into the bottom left corner of a canvas of `canvasHeight` units. Runs after
-/// each text, too: the first one has two lines where there was one, and would reach below the
-/// canvas.
-void CVKIntensityMdiWidget::placeReadout(int canvasHeight)
-{
-    m_readout->setPos(0.0, canvasHeight - m_readout->boundingRect().height() - 10.0);
+    // Deliberate: here alone, so a text of another height stays where the last one was placed.
+    m_readout->setPos(0.0, canvas.height() - m_readout->boundingRect().height() - 10.0);
 }
 
 /// The display image, or null when there is none.

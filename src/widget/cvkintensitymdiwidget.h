@@ -104,7 +104,6 @@ private:
     void refreshReadout();
     void updateReadoutOfView();
     void updateReadout(int x, int y);
-    void placeReadout(int canvasHeight);
 
     int m_axis = 0; ///< chart shown in the 2D view: 0 row, 1 column
     int m_displayType = 0; ///< 0 image view, 1 2D chart

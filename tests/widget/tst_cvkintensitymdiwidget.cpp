@@ -41,6 +41,8 @@ private Q_SLOTS:
     void close_undoesTheConnectionsAndKeepsThePicture();
     void close_andLoadAgainConnectsOnce();
     void resize_movesTheReadout();
+    void readout_isPlacedByTheResizeEventAlone();
+    void readout_atXEqualsWidth();
     void resize_downToNothing();
     void emptyRawFile_afterAnImageLeavesTheCanvas();
     void opensEveryKindOfFile_data();
@@ -520,14 +522,51 @@ void TestCVKIntensityMdiWidget::resize_movesTheReadout()
 {
     Host host;
     openSquare(host); // the text has two lines from now on
-    QCOMPARE(
-        host.readout->pos(), QPointF(0.0, 800.0 - host.readout->boundingRect().height() - 10.0));
     host.widget.resize(900, 600);
     QCOMPARE(host.view->size(), QSize(900, 600));
     QCOMPARE(host.scene->sceneRect(), QRectF(0.0, 0.0, 900.0, 600.0));
     QCOMPARE(
         host.readout->pos(), QPointF(0.0, 600.0 - host.readout->boundingRect().height() - 10.0));
     QCOMPARE(host.image->size, QSizeF(380.0, 380.0)); // min(760, 380) / 512
+}
+
+void TestCVKIntensityMdiWidget::readout_isPlacedByTheResizeEventAlone()
+{
+    Host host;
+    host.widget.resize(1000, 800);
+    host.window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&host.window));
+    const QPointF ofNoText = host.readout->pos();
+    QCOMPARE(ofNoText, QPointF(0.0, 800.0 - host.readout->boundingRect().height() - 10.0));
+    const double oneLine = host.readout->boundingRect().height();
+    QVERIFY(host.widget.loadImage(path("square.raw")));
+    QVERIFY(host.readout->boundingRect().height() > oneLine); // two lines
+    QCOMPARE(host.readout->pos(), ofNoText);
+    host.click(QPointF(571.0, 221.0));
+    QCOMPARE(host.readout->pos(), ofNoText);
+    // By the height that the event names, whatever the widget's own is.
+    QResizeEvent event(QSize(1000, 700), QSize(1000, 800));
+    QCoreApplication::sendEvent(&host.widget, &event);
+    QCOMPARE(
+        host.readout->pos(), QPointF(0.0, 700.0 - host.readout->boundingRect().height() - 10.0));
+    host.widget.changedAnchorImagePosition(QPointF(3.0, 3.0));
+    QCOMPARE(
+        host.readout->pos(), QPointF(0.0, 700.0 - host.readout->boundingRect().height() - 10.0));
+}
+
+void TestCVKIntensityMdiWidget::readout_atXEqualsWidth()
+{
+    Host host;
+    openSquare(host);
+    // Row 127 holds 1000 + x and row 128 holds 5000: behind the last column comes the next row.
+    host.widget.changedAnchorImagePosition(QPointF(511.0, 127.0));
+    QCOMPARE(host.readout->toPlainText(), QString("X:511  Y:384\nData:1511"));
+    host.widget.changedAnchorImagePosition(QPointF(512.0, 127.0));
+    QCOMPARE(host.readout->toPlainText(), QString("X:512  Y:384\nData:5000"));
+    host.widget.changedAnchorImagePosition(QPointF(513.0, 127.0)); // limited to the width
+    QCOMPARE(host.readout->toPlainText(), QString("X:512  Y:384\nData:5000"));
+    host.widget.changedAnchorImagePosition(QPointF(512.0, 511.0)); // behind the last row is nothing
+    QCOMPARE(host.readout->toPlainText(), QString("X:512  Y:0\nData:0"));
 }
 
 void TestCVKIntensityMdiWidget::resize_downToNothing()
