@@ -36,15 +36,15 @@ LevelAxis chartLevelAxis(const QSizeF& size, int border, double valueScale)
         size.height() / (valueScale * 255.0) };
 }
 
-QVector<QLineF> chartPolyline(
-    const uchar* samples, int count, const QVector<int>& map, int border, const LevelAxis& axis)
+void buildChartPolyline(QVector<QLineF>& lines, const uchar* samples, int count,
+    const QVector<int>& map, int border, const LevelAxis& axis)
 {
     Q_ASSERT(samples && count >= 1 && !map.isEmpty());
     const auto columnY = [&](int column) {
         const int shown = map.at(std::min(column, int(map.size()) - 1));
         return axis.y(nearestSample(samples, count, shown));
     };
-    QVector<QLineF> lines;
+    lines.resize(0); // keeps the capacity in every Qt
     lines.reserve(map.size());
     QPointF end(border + 1.0, columnY(1));
     lines.append(QLineF(QPointF(border, columnY(0)), end));
@@ -54,7 +54,6 @@ QVector<QLineF> chartPolyline(
         lines.append(QLineF(end, next));
         end = next;
     }
-    return lines;
 }
 
 uchar nearestSample(const uchar* samples, int count, int index)

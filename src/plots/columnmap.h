@@ -31,9 +31,10 @@ struct LevelAxis
 /// height.
 LevelAxis chartLevelAxis(const QSizeF& size, int border, double valueScale);
 
-/// The polyline through the samples that the columns of `map`, one or more, show.
-QVector<QLineF> chartPolyline(
-    const uchar* samples, int count, const QVector<int>& map, int border, const LevelAxis& axis);
+/// Builds the polyline through the samples that the columns of `map`, one or more, show into
+/// `lines`, whose capacity is kept.
+void buildChartPolyline(QVector<QLineF>& lines, const uchar* samples, int count,
+    const QVector<int>& map, int border, const LevelAxis& axis);
 
 /// samples[index], the index limited to 0 .. count - 1.
 uchar nearestSample(const uchar* samples, int count, int index);

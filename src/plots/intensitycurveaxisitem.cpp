@@ -57,8 +57,8 @@ void IntensityCurveAxisItem::rebuildCurve()
     rebuildTicks();
     if (roundedSize(size).width() >= 1 && !m_columnMap.isEmpty()) {
         mapColumns(m_columnMap, m_detected.peaks, sampleCount(), size.width());
-        m_curveLines
-            = chartPolyline(samples(), sampleCount(), m_columnMap, borderWidth, levelAxis());
+        buildChartPolyline(
+            m_curveLines, samples(), sampleCount(), m_columnMap, borderWidth, levelAxis());
     }
     placeCross();
 }

@@ -28,7 +28,7 @@ void IntensityCurveHorizontal::rebuildCurve()
     if (sampleCount() < 1) {
         return;
     }
-    m_curveLines = horizontalPolyline(samples(), sampleCount(), size, borderWidth);
+    buildHorizontalPolyline(m_curveLines, samples(), sampleCount(), size, borderWidth);
 }
 
 void IntensityCurveHorizontal::emitDragScroll(const QPointF& current)

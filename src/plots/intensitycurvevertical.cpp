@@ -28,7 +28,7 @@ void IntensityCurveVertical::rebuildCurve()
     if (sampleCount() < 1) {
         return;
     }
-    m_curveLines = verticalPolyline(samples(), sampleCount(), size, borderWidth);
+    buildVerticalPolyline(m_curveLines, samples(), sampleCount(), size, borderWidth);
 }
 
 void IntensityCurveVertical::emitDragScroll(const QPointF& current)

@@ -12,17 +12,17 @@ constexpr double maxUnits = 1048576.0; // 2^20
 /// `pointAt(position along the strip, level)` makes. Which sample stands at which position is the
 /// same in both strips; where a level lies across the strip is not, so that stays with the caller.
 template <class PointAt>
-QVector<QLineF> joinedSamples(
-    const uchar* samples, int count, double extent, int integralLength, int border, PointAt pointAt)
+void joinSamples(QVector<QLineF>& lines, const uchar* samples, int count, double extent,
+    int integralLength, int border, PointAt pointAt)
 {
     Q_ASSERT(samples && count >= 1);
-    QVector<QLineF> lines;
+    lines.resize(0); // keeps the capacity in every Qt
     const double start = border;
     const double last = integralLength - start;
     // The walk is shorter than the strip, but longer when the border is negative: neither the strip
     // nor the walk may pass the limit.
     if (std::max(double(integralLength), last - start) > maxUnits) {
-        return lines;
+        return;
     }
     const double samplesPerUnit = count / extent;
     // Deliberate: the second point stands at border + 1 but takes the sample of position 1, while
@@ -34,25 +34,26 @@ QVector<QLineF> joinedSamples(
         lines.append(QLineF(end, next));
         end = next;
     }
-    return lines;
 }
 
 } // namespace
 
-QVector<QLineF> horizontalPolyline(const uchar* samples, int count, const QSizeF& size, int border)
+void buildHorizontalPolyline(
+    QVector<QLineF>& lines, const uchar* samples, int count, const QSizeF& size, int border)
 {
     const QSize integral = roundedSize(size);
     const double baseline = double(integral.height()) + border;
     const double unitsPerLevel = size.height() / 255.0;
-    return joinedSamples(samples, count, size.width(), integral.width(), border,
+    joinSamples(lines, samples, count, size.width(), integral.width(), border,
         [=](double x, uchar level) { return QPointF(x, baseline - level * unitsPerLevel); });
 }
 
-QVector<QLineF> verticalPolyline(const uchar* samples, int count, const QSizeF& size, int border)
+void buildVerticalPolyline(
+    QVector<QLineF>& lines, const uchar* samples, int count, const QSizeF& size, int border)
 {
     const double unitsPerLevel = size.width() / 255.0;
     // Deliberate: level 0 lies one border left of the origin, not inside the frame.
-    return joinedSamples(samples, count, size.height(), roundedSize(size).height(), border,
+    joinSamples(lines, samples, count, size.height(), roundedSize(size).height(), border,
         [=](double y, uchar level) { return QPointF(level * unitsPerLevel - border, y); });
 }
 

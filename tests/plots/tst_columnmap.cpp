@@ -14,6 +14,14 @@ Peak peakAt(int index)
     return peak;
 }
 
+QVector<QLineF> chartPolyline(
+    const uchar* samples, int count, const QVector<int>& map, int border, const LevelAxis& axis)
+{
+    QVector<QLineF> lines;
+    buildChartPolyline(lines, samples, count, map, border, axis);
+    return lines;
+}
+
 } // namespace
 
 class TestColumnMap : public QObject
@@ -32,6 +40,7 @@ private Q_SLOTS:
     void polyline_ofFourColumns();
     void polyline_ofOneColumn();
     void polyline_readsInside();
+    void polyline_isReplacedInItsMemory();
 };
 
 void TestColumnMap::peak_keepsItsColumn()
@@ -130,6 +139,20 @@ void TestColumnMap::polyline_readsInside()
     const QVector<QLineF> lines
         = chartPolyline(samples, 2, { -1, 700 }, 0, LevelAxis { 100.0, 1.0 });
     QCOMPARE(lines.first(), QLineF(0.0, 90.0, 1.0, 80.0));
+}
+
+void TestColumnMap::polyline_isReplacedInItsMemory()
+{
+    const uchar samples[] = { 10, 20 };
+    const LevelAxis axis { 100.0, 1.0 };
+    QVector<QLineF> lines;
+    buildChartPolyline(lines, samples, 2, QVector<int>(300, 1), 1, axis);
+    const QLineF* const memory = lines.constData();
+    buildChartPolyline(lines, samples, 2, { 0 }, 1, axis);
+    QCOMPARE(lines.size(), 1);
+    buildChartPolyline(lines, samples, 2, QVector<int>(300, 0), 1, axis);
+    QCOMPARE(lines.size(), 300);
+    QVERIFY(lines.constData() == memory);
 }
 
 QTEST_GUILESS_MAIN(TestColumnMap)

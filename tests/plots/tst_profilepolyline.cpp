@@ -17,6 +17,20 @@ QVector<QLineF> joined(const QVector<QPointF>& points)
     return lines;
 }
 
+QVector<QLineF> horizontalPolyline(const uchar* samples, int count, const QSizeF& size, int border)
+{
+    QVector<QLineF> lines;
+    buildHorizontalPolyline(lines, samples, count, size, border);
+    return lines;
+}
+
+QVector<QLineF> verticalPolyline(const uchar* samples, int count, const QSizeF& size, int border)
+{
+    QVector<QLineF> lines;
+    buildVerticalPolyline(lines, samples, count, size, border);
+    return lines;
+}
+
 } // namespace
 
 class TestProfilePolyline : public QObject
@@ -41,6 +55,7 @@ private Q_SLOTS:
     void longestStrip();
     void hostileSizes_data();
     void hostileSizes();
+    void linesAreReplacedInTheirMemory();
     void clampedSample_staysInside_data();
     void clampedSample_staysInside();
 };
@@ -227,6 +242,27 @@ void TestProfilePolyline::hostileSizes()
     const QSizeF size(extent, extent);
     QCOMPARE(horizontalPolyline(samples.data(), 3, size, border).size(), segments);
     QCOMPARE(verticalPolyline(samples.data(), 3, size, border).size(), segments);
+}
+
+void TestProfilePolyline::linesAreReplacedInTheirMemory()
+{
+    const uchar sample = 7;
+    using Build = void (*)(QVector<QLineF>&, const uchar*, int, const QSizeF&, int);
+    for (const Build build : { Build(buildHorizontalPolyline), Build(buildVerticalPolyline) }) {
+        QVector<QLineF> lines;
+        build(lines, &sample, 1, QSizeF(500.0, 500.0), 1);
+        QCOMPARE(lines.size(), 498);
+        const QLineF* const memory = lines.constData();
+        const auto capacity = lines.capacity();
+        build(lines, &sample, 1, QSizeF(10.0, 10.0), 1);
+        QCOMPARE(lines.size(), 8);
+        build(lines, &sample, 1, QSizeF(2e6, 2e6), 1); // too long
+        QCOMPARE(lines.size(), 0);
+        build(lines, &sample, 1, QSizeF(500.0, 500.0), 1);
+        QCOMPARE(lines.size(), 498);
+        QVERIFY(lines.constData() == memory);
+        QCOMPARE(lines.capacity(), capacity);
+    }
 }
 
 void TestProfilePolyline::clampedSample_staysInside_data()
