@@ -11,11 +11,18 @@
 
 #include <algorithm>
 #include <cstring>
+#include <new>
 
 namespace {
 constexpr int defaultShownPeaks = 10;
 constexpr int labelPixelSize = 9;
 constexpr int calibratedDecimals = 1;
+
+void logDetection(const DetectedPeaks& detected)
+{
+    qDebug("doAutomaticMultisaclePeakDetection:index [%d, %d]", detected.scale, detected.rowSum);
+}
+
 }
 
 IntensityCurveAxisItem::IntensityCurveAxisItem(QGraphicsItem* parent)
@@ -64,30 +71,49 @@ void IntensityCurveAxisItem::rebuildCurve()
 }
 
 /// Finds the peaks. The result depends on the samples alone: the same ones again, as a new size
-/// brings them, only start the labels afresh.
+/// brings them, only start the labels afresh. Without memory the old peaks stay.
 void IntensityCurveAxisItem::detect()
 {
     const auto* const bytes = reinterpret_cast<const char*>(samples());
     if (m_detectedSamples.size() == sampleCount()
         && std::memcmp(m_detectedSamples.constData(), bytes, size_t(sampleCount())) == 0) {
+        logDetection(m_detected);
         for (Peak& peak : m_detected.peaks) {
             peak = Peak { peak.index, -1, peak.value, QPointF(-1.0, -1.0) };
         }
-    } else {
-        m_detected = detectPeaks(samples(), sampleCount());
-        m_detectedSamples = QByteArray(bytes, sampleCount());
+        return;
     }
-    qDebug(
-        "doAutomaticMultisaclePeakDetection:index [%d, %d]", m_detected.scale, m_detected.rowSum);
+    const DetectedPeaks found = detectPeaks(samples(), sampleCount());
+    QByteArray detectedSamples;
+    if (found.peaks.isEmpty() || !makeRoom(found, detectedSamples)) {
+        return;
+    }
+    logDetection(found);
+    m_detectedSamples = detectedSamples;
+    m_detected.scale = found.scale;
+    m_detected.rowSum = found.rowSum;
+    m_detected.peaks.resize(found.peaks.size());
+    std::copy(found.peaks.begin(), found.peaks.end(), m_detected.peaks.begin());
+}
+
+/// Copies the samples and gives the list room for `found`, so that nothing fails once it changes.
+bool IntensityCurveAxisItem::makeRoom(const DetectedPeaks& found, QByteArray& detectedSamples)
+{
+    try {
+        detectedSamples = QByteArray(reinterpret_cast<const char*>(samples()), sampleCount());
+        m_detected.peaks.reserve(found.peaks.size());
+        return true;
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
 }
 
 void IntensityCurveAxisItem::rebuildTicks()
 {
-    if (!samples() || m_detected.peaks.isEmpty()) {
-        return;
+    if (samples()) {
+        buildPeakTicks(m_peakTicks, m_detected.peaks, m_shownPeaks, samples(), sampleCount(),
+            size.width(), levelAxis());
     }
-    m_peakTicks = ::peakTicks(
-        m_detected.peaks, m_shownPeaks, samples(), sampleCount(), size.width(), levelAxis());
 }
 
 void IntensityCurveAxisItem::resetPeaks()

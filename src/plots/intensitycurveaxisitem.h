@@ -62,6 +62,7 @@ private:
     LevelAxis levelAxis() const;
     uchar sampleAt(int index) const;
     void detect();
+    bool makeRoom(const DetectedPeaks& found, QByteArray& detectedSamples);
     void rebuildTicks();
     void pick(double x);
     void placeCross();

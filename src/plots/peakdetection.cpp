@@ -7,7 +7,8 @@
 
 #include <algorithm>
 #include <array>
-#include <vector>
+#include <memory>
+#include <new>
 
 HWY_BEFORE_NAMESPACE();
 namespace {
@@ -89,6 +90,13 @@ HWY_EXPORT(addMaxima);
 constexpr int scalesAtOnce = 255; // as many as a byte can count
 constexpr size_t longestVector = 256; // bytes, of any processor type
 
+/// Room for `size` entries as they start out, or null.
+template <class Entry>
+std::unique_ptr<Entry[]> workArray(size_t size)
+{
+    return std::unique_ptr<Entry[]>(new (std::nothrow) Entry[size]());
+}
+
 /// Whether any sample has a smaller one somewhere on both sides; without one there is no maximum
 /// at any scale.
 bool hasMaximum(const uchar* samples, int count)
@@ -131,24 +139,29 @@ void findScale(const uchar* padded, int count, DetectedPeaks& detected)
     detected.rowSum = int(-most);
 }
 
-/// For each sample, the number of scales 1 to `scale` at which it is a maximum.
-std::vector<int> maximumCounts(const uchar* padded, size_t paddedSize, int count, int scale)
+/// Adds to counts[i] the number of scales 1 to `scale` at which sample i is a maximum. False,
+/// without memory, when nothing has been added.
+bool addMaximumCounts(const uchar* padded, size_t paddedSize, int count, int scale, int* counts)
 {
-    std::vector<int> counts(size_t(count), 0);
     const int last = std::min(scale, count - 1);
+    const auto part = workArray<uchar>(paddedSize);
+    if (!part) {
+        return false;
+    }
     for (int first = 1; first <= last; first += scalesAtOnce) {
-        std::vector<uchar> part(paddedSize, 0);
+        std::fill_n(part.get(), paddedSize, uchar(0));
         const int end = std::min(last, first + scalesAtOnce - 1);
-        HWY_DYNAMIC_DISPATCH(addMaxima)(padded, count, first, end, part.data());
-        for (size_t i = 0; i < counts.size(); ++i) {
-            counts[i] += part[i];
+        HWY_DYNAMIC_DISPATCH(addMaxima)(padded, count, first, end, part.get());
+        for (int i = 0; i < count; ++i) {
+            counts[i] += part[size_t(i)];
         }
     }
-    return counts;
+    return true;
 }
 
-/// Sorts by value, largest first, equal ones in their order; counted rather than compared.
-void sortByValue(Peak* first, Peak* last)
+/// Sorts by value, largest first, equal ones in their order; counted rather than compared. `spare`
+/// has room for as many.
+void sortByValue(Peak* first, Peak* last, Peak* spare)
 {
     if (last - first < 2) {
         return;
@@ -160,19 +173,19 @@ void sortByValue(Peak* first, Peak* last)
     for (size_t i = 1; i < places.size(); ++i) {
         places[i] += places[i - 1];
     }
-    const std::vector<Peak> unsorted(first, last);
-    for (const Peak& peak : unsorted) {
-        first[places[size_t(255 - peak.value)]++] = peak;
+    const Peak* const end = std::copy(first, last, spare);
+    for (const Peak* peak = spare; peak != end; ++peak) {
+        first[places[size_t(255 - peak->value)]++] = *peak;
     }
 }
 
 /// The lowest level that is collected: whole levels from `scale` down until there are enough peaks.
-int lowestLevel(const std::vector<int>& levelSizes, int scale)
+int lowestLevel(const int* levelSizes, int scale)
 {
     int held = 0;
     int level = scale;
     for (; level > 1; --level) {
-        held += levelSizes[size_t(level)];
+        held += levelSizes[level];
         if (held >= peakCapacity) {
             break;
         }
@@ -180,33 +193,51 @@ int lowestLevel(const std::vector<int>& levelSizes, int scale)
     return level;
 }
 
-QVector<Peak> rankedPeaks(const uchar* samples, const std::vector<int>& counts, int scale)
+/// False without memory.
+bool resizeList(QVector<Peak>& peaks, int size)
 {
-    std::vector<int> levelSizes(size_t(scale) + 1, 0);
-    for (const int count : counts) {
-        ++levelSizes[size_t(count)];
+    try {
+        peaks.resize(size);
+        return true;
+    } catch (const std::bad_alloc&) {
+        return false;
     }
-    const int lowest = lowestLevel(levelSizes, scale);
-    std::vector<int> starts(levelSizes.size(), 0); // of a level in the list, the highest first
+}
+
+/// Lists the peaks by level, the highest first, and each level by value. False without memory.
+bool listPeaks(const uchar* samples, const int* counts, int count, int scale, QVector<Peak>& peaks)
+{
+    const auto levelSizes = workArray<int>(size_t(scale) + 1);
+    const auto starts = workArray<int>(size_t(scale) + 1); // of a level in the list
+    if (!levelSizes || !starts) {
+        return false;
+    }
+    for (int i = 0; i < count; ++i) {
+        ++levelSizes[size_t(counts[i])];
+    }
+    const int lowest = lowestLevel(levelSizes.get(), scale);
     int held = 0;
     for (int level = scale; level >= lowest; --level) {
         starts[size_t(level)] = held;
         held += levelSizes[size_t(level)];
     }
-    QVector<Peak> peaks(held);
+    const auto spare = workArray<Peak>(size_t(held));
+    if (!spare || !resizeList(peaks, held)) {
+        return false;
+    }
     Peak* const list = peaks.data();
-    for (size_t i = 0; i < counts.size(); ++i) {
+    for (int i = 0; i < count; ++i) {
         if (counts[i] >= lowest) {
             Peak& peak = list[starts[size_t(counts[i])]++];
-            peak.index = int(i);
+            peak.index = i;
             peak.value = samples[i];
         }
     }
     for (int level = scale; level >= lowest; --level) {
         const int end = starts[size_t(level)];
-        sortByValue(list + end - levelSizes[size_t(level)], list + end);
+        sortByValue(list + end - levelSizes[size_t(level)], list + end, spare.get());
     }
-    return peaks;
+    return true;
 }
 
 } // namespace
@@ -214,16 +245,21 @@ QVector<Peak> rankedPeaks(const uchar* samples, const std::vector<int>& counts, 
 DetectedPeaks detectPeaks(const uchar* samples, int count)
 {
     Q_ASSERT(samples && count >= 1);
-    DetectedPeaks detected;
-    std::vector<uchar> padded(size_t(count) + longestVector, 255);
-    std::copy_n(samples, count, padded.begin());
-    if (hasMaximum(samples, count)) {
-        findScale(padded.data(), count, detected);
+    const size_t paddedSize = size_t(count) + longestVector;
+    const auto padded = workArray<uchar>(paddedSize);
+    const auto counts = workArray<int>(size_t(count));
+    if (!padded || !counts) {
+        return DetectedPeaks();
     }
-    const std::vector<int> counts
-        = maximumCounts(padded.data(), padded.size(), count, detected.scale);
-    detected.peaks = rankedPeaks(samples, counts, detected.scale);
-    return detected;
+    std::fill_n(std::copy_n(samples, count, padded.get()), longestVector, uchar(255));
+    DetectedPeaks detected;
+    if (hasMaximum(samples, count)) {
+        findScale(padded.get(), count, detected);
+    }
+    const bool isListed
+        = addMaximumCounts(padded.get(), paddedSize, count, detected.scale, counts.get())
+        && listPeaks(samples, counts.get(), count, detected.scale, detected.peaks);
+    return isListed ? detected : DetectedPeaks();
 }
 
 #endif

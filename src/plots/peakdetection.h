@@ -20,7 +20,7 @@ struct DetectedPeaks
 {
     int scale = 0; ///< the scale that shows most local maxima; 0 when none shows any
     int rowSum = 0; ///< minus their number
-    QVector<Peak> peaks; ///< best first
+    QVector<Peak> peaks; ///< best first; empty: there was no memory to find them
 };
 
 /// Finds and ranks the peaks of `count` >= 1 samples.

@@ -11,18 +11,20 @@ constexpr double tickGap = 2.0; // between a tick and the curve
 constexpr double labelGap = 1.0; // between a label and its tick, and around a label
 }
 
-QVector<QLineF> peakTicks(const QVector<Peak>& peaks, int shown, const uchar* samples, int count,
-    double width, const LevelAxis& axis)
+void buildPeakTicks(QVector<QLineF>& ticks, const QVector<Peak>& peaks, int shown,
+    const uchar* samples, int count, double width, const LevelAxis& axis)
 {
-    QVector<QLineF> ticks;
     const int ticked = std::min(int(peaks.size()), shown);
+    if (ticked < 1) {
+        return;
+    }
+    ticks.resize(0);
     for (int i = 0; i < ticked; ++i) {
         const int index = peaks.at(i).index;
         const double x = truncated(index * width / count);
         const double end = axis.y(nearestSample(samples, count, index)) - tickGap;
         ticks.append(QLineF(x, end - tickLength, x, end));
     }
-    return ticks;
 }
 
 QString PeakLabelNumbers::text(int index) const
@@ -45,7 +47,6 @@ void layOutPeakLabels(QVector<Peak>& peaks, const QVector<QLineF>& ticks,
     for (int j = 0; j < labelled; ++j) {
         Peak& peak = peaks[j];
         const double width = widths.at(j);
-        peak.link = -1;
         peak.label = QPointF(ticks.at(j).x1() - width * 0.5, ticks.at(j).y1() - labelGap);
         for (int i = j - 1; i >= 0; --i) {
             // Deliberate: both labels are taken to be as wide as this one.

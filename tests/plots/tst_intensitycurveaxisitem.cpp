@@ -21,6 +21,11 @@ struct Chart : IntensityCurveAxisItem
         setSize(100.0, 255.0);
     }
 
+    /// Called behind the contents, with what they leave in the painter.
+    void drawForeground(QPainter* painter) override { lastPen = painter->pen(); }
+
+    QPen lastPen;
+
     void show(std::vector<uchar> profile) { updateCurve(profile.data(), int(profile.size())); }
 
     RecordingPaintDevice recorded;
@@ -61,6 +66,16 @@ void press(IntensityCurveAxisItem& chart, const QPointF& position,
     }
 }
 
+/// What a chart holds at the time of each line that a detection writes.
+QVector<int> peaksAtTheDebugLines;
+const IntensityCurveAxisItem* watchedChart = nullptr;
+
+void notePeaks(QtMsgType, const QMessageLogContext&, const QString&)
+{
+    peaksAtTheDebugLines.append(
+        watchedChart->peaks().isEmpty() ? -1 : watchedChart->peaks().first().index);
+}
+
 QPointF crossOf(const IntensityCurveAxisItem& chart)
 {
     return dynamic_cast<CrossItem*>(chart.childItems().first())->position;
@@ -78,7 +93,10 @@ private Q_SLOTS:
     void construction();
     void profile_isDetectedAndDrawn();
     void detection_writesItsLine();
+    void detection_writesItsLineBeforeTheListChanges();
     void detection_ofTheSameSamplesAgain();
+    void lists_areReplacedInTheirMemory();
+    void peak_amongManySamples();
     void reversed_storesBackToFront();
     void hidden_keepsWhatItHas();
     void valueScale_lowersTheCurve();
@@ -89,6 +107,9 @@ private Q_SLOTS:
     void peaks_areDrawnWhenShown();
     void labels_ofARange();
     void labels_outsideAreNotDrawn();
+    void labels_onTheEdgesAreDrawn();
+    void labels_closeTogetherAreStacked();
+    void labels_leaveTheBorderPen();
     void labels_afterAResetOfTheCount();
     void slots_repaintTheVisibleItem();
     void pick_announcesTheSample();
@@ -185,6 +206,7 @@ void TestIntensityCurveAxisItem::detection_ofTheSameSamplesAgain()
     QCOMPARE(chart.peaks().size(), found);
     QCOMPARE(chart.columnMap(), map);
     QCOMPARE(chart.peaks().first().label, QPointF(-1.0, -1.0)); // not laid out yet
+    QCOMPARE(chart.peaks().first().link, -1);
     // One sample differs.
     chart.show(spikes({ { 20, 200 }, { 21, 100 }, { 25, 150 } }));
     QCOMPARE(chart.peaks().at(1).index, 25);
@@ -193,6 +215,51 @@ void TestIntensityCurveAxisItem::detection_ofTheSameSamplesAgain()
     longer.push_back(10);
     chart.show(longer);
     QCOMPARE(chart.columnMap().at(99), 50); // trunc(99 x 51 / 100)
+}
+
+void TestIntensityCurveAxisItem::detection_writesItsLineBeforeTheListChanges()
+{
+    QLoggingCategory::setFilterRules("*.debug=true");
+    Chart chart;
+    watchedChart = &chart;
+    peaksAtTheDebugLines.clear();
+    const QtMessageHandler before = qInstallMessageHandler(notePeaks);
+    chart.show(spikes({ { 20, 200 } }));
+    chart.show(spikes({ { 30, 200 } }));
+    chart.rebuildCurve();
+    qInstallMessageHandler(before);
+    QLoggingCategory::setFilterRules("*.debug=false");
+    QCOMPARE(peaksAtTheDebugLines, (QVector<int> { -1, 20, 30 }));
+}
+
+void TestIntensityCurveAxisItem::lists_areReplacedInTheirMemory()
+{
+    Chart chart;
+    chart.show(std::vector<uchar>(50, 10)); // every sample a peak
+    QCOMPARE(chart.peaks().size(), 50);
+    const Peak* const peaks = chart.peaks().constData();
+    const QLineF* const lines = chart.curveLines().constData();
+    chart.show(spikes({ { 20, 200 } }));
+    QCOMPARE(chart.peaks().size(), 1);
+    chart.show(spikes({ { 20, 200 }, { 30, 100 } }));
+    chart.show(std::vector<uchar>(50, 20));
+    QCOMPARE(chart.peaks().size(), 50);
+    QVERIFY(chart.peaks().constData() == peaks);
+    QVERIFY(chart.curveLines().constData() == lines);
+}
+
+void TestIntensityCurveAxisItem::peak_amongManySamples()
+{
+    Chart chart;
+    chart.setSize(400.0, 255.0);
+    std::vector<uchar> samples(1000, 10);
+    samples[503] = 200;
+    chart.show(samples);
+    // Column trunc(503 x 0.4) = 201 would show sample trunc(201 x 2.5) = 502, and the next one 505.
+    QCOMPARE(chart.columnMap().at(201), 503);
+    QCOMPARE(chart.curveLines().at(201).p2(), QPointF(202.0, 56.0)); // 256 - 200
+    QCOMPARE(chart.curveLines().at(200).p2(), QPointF(201.0, 246.0));
+    QCOMPARE(chart.curveLines().at(202).p2(), QPointF(203.0, 246.0));
 }
 
 void TestIntensityCurveAxisItem::reversed_storesBackToFront()
@@ -338,6 +405,63 @@ void TestIntensityCurveAxisItem::labels_outsideAreNotDrawn()
     QVERIFY(chart.painted().texts().isEmpty());
     chart.show(spikes({ { 49 - 1, 200 } }));
     QCOMPARE(chart.painted().texts(), QStringList { "196000.0" }); // clipped by nobody
+}
+
+void TestIntensityCurveAxisItem::labels_onTheEdgesAreDrawn()
+{
+    QFont font = largeItalicFont();
+    font.setPixelSize(9);
+    const QFontMetricsF metrics(font);
+    Chart chart;
+    chart.changedShowPeaksState(true);
+    // The tick of level v ends 22 units above 256 - v, the label's line 1 unit above that: its top
+    // left corner comes into the first row of pixels, and two levels more put it above the item.
+    const int level = int(233.0 - metrics.height());
+    chart.show(spikes({ { 20, uchar(level) } }));
+    QCOMPARE(chart.painted().texts(), QStringList { "20" });
+    chart.show(spikes({ { 20, uchar(level + 2) } }));
+    QVERIFY(chart.painted().texts().isEmpty());
+
+    // One unit a sample: the label's left end comes into the first column, or two units before it.
+    chart.setSize(50.0, 255.0);
+    int first = 1;
+    while (first < metrics.horizontalAdvance(QString::number(first)) * 0.5) {
+        ++first;
+    }
+    QVERIFY(first >= 3);
+    chart.show(spikes({ { size_t(first), 100 } }));
+    QCOMPARE(chart.painted().texts(), QStringList { QString::number(first) });
+    chart.show(spikes({ { size_t(first) - 2, 100 } }));
+    QVERIFY(chart.painted().texts().isEmpty());
+}
+
+void TestIntensityCurveAxisItem::labels_closeTogetherAreStacked()
+{
+    Chart chart;
+    chart.changedShowPeaksState(true);
+    chart.show(spikes({ { 20, 200 }, { 22, 199 } })); // 4 units apart
+    const auto labels = chart.painted().of(RecordingPaintDevice::Text);
+    QCOMPARE(labels.size(), 2);
+    QCOMPARE(labels.at(0).text, QString("20"));
+    QCOMPARE(labels.at(1).text, QString("22"));
+    const QFontMetricsF metrics(labels.at(0).font);
+    const double width = metrics.horizontalAdvance("22");
+    QCOMPARE(labels.at(0).position.y(), 33.0); // 256 - 200 - 22 - 1
+    QCOMPARE(labels.at(1).position, // one line above the first, not over its own tick
+        QPointF(int(44.0 - width * 0.5), int(33.0 - metrics.height())));
+    QCOMPARE(chart.peaks().at(1).link, 0);
+}
+
+void TestIntensityCurveAxisItem::labels_leaveTheBorderPen()
+{
+    Chart chart;
+    chart.show(spikes({ { 20, 200 } }));
+    chart.painted();
+    QCOMPARE(chart.lastPen.color(), QColor(40, 128, 140)); // without peaks nothing is set
+    chart.changedShowPeaksState(true);
+    chart.painted();
+    QCOMPARE(chart.lastPen.color(), QColor(Qt::white));
+    QCOMPARE(chart.lastPen.width(), 1);
 }
 
 void TestIntensityCurveAxisItem::labels_afterAResetOfTheCount()

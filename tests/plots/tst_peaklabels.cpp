@@ -16,6 +16,14 @@ QLineF tick(double x, double top)
     return QLineF(x, top, x, top + 20.0);
 }
 
+QVector<QLineF> peakTicks(const QVector<Peak>& peaks, int shown, const uchar* samples, int count,
+    double width, const LevelAxis& axis)
+{
+    QVector<QLineF> ticks;
+    buildPeakTicks(ticks, peaks, shown, samples, count, width, axis);
+    return ticks;
+}
+
 } // namespace
 
 class TestPeakLabels : public QObject
@@ -25,6 +33,7 @@ class TestPeakLabels : public QObject
 private Q_SLOTS:
     void ticks_endAboveTheCurve();
     void ticks_areAsManyAsAreShown();
+    void ticks_stayWithoutPeaks();
     void numbers_withoutRangeAreIndices();
     void numbers_ofARange();
     void layout_centresOverTheTick();
@@ -32,7 +41,7 @@ private Q_SLOTS:
     void layout_takesTheLastCloseOne();
     void layout_leavesDistantLabels();
     void layout_usesTheWidthOfTheLaterLabel();
-    void layout_startsAfresh();
+    void layout_placesAfreshAndKeepsTheLink();
     void layout_isLimitedByEveryList();
 };
 
@@ -55,6 +64,17 @@ void TestPeakLabels::ticks_areAsManyAsAreShown()
     // A peak of a longer profile: the last sample is read.
     QCOMPARE(
         peakTicks({ peakAt(900) }, 1, samples, 3, 3.0, LevelAxis { 10.0, 1.0 }).first().y2(), 5.0);
+}
+
+void TestPeakLabels::ticks_stayWithoutPeaks()
+{
+    const uchar samples[] = { 1, 2, 3 };
+    const QVector<QLineF> old { tick(5.0, 6.0), tick(7.0, 8.0) };
+    QVector<QLineF> ticks = old;
+    buildPeakTicks(ticks, {}, 10, samples, 3, 3.0, LevelAxis());
+    QCOMPARE(ticks, old);
+    buildPeakTicks(ticks, { peakAt(1) }, 10, samples, 3, 3.0, LevelAxis { 30.0, 1.0 });
+    QCOMPARE(ticks, (QVector<QLineF> { { 1.0, 6.0, 1.0, 26.0 } })); // 30 - 2 - 2, and 20 up
 }
 
 void TestPeakLabels::numbers_withoutRangeAreIndices()
@@ -127,14 +147,14 @@ void TestPeakLabels::layout_usesTheWidthOfTheLaterLabel()
     QCOMPARE(peaks.at(1).link, 0);
 }
 
-void TestPeakLabels::layout_startsAfresh()
+void TestPeakLabels::layout_placesAfreshAndKeepsTheLink()
 {
     QVector<Peak> peaks { peakAt(5), peakAt(6) };
     const QVector<QLineF> ticks { tick(100.0, 50.0), tick(120.0, 50.0) };
     layOutPeakLabels(peaks, ticks, { 30.0, 30.0 }, 12.0);
     QCOMPARE(peaks.at(1).link, 0);
-    layOutPeakLabels(peaks, ticks, { 5.0, 5.0 }, 12.0);
-    QCOMPARE(peaks.at(1).link, -1);
+    layOutPeakLabels(peaks, ticks, { 5.0, 5.0 }, 12.0); // nothing is close any more
+    QCOMPARE(peaks.at(1).link, 0); // until the peaks are detected anew
     QCOMPARE(peaks.at(1).label, QPointF(117.5, 49.0));
 }
 
