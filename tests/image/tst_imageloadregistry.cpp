@@ -17,6 +17,7 @@ private Q_SLOTS:
     void initTestCase();
     void suffixPicksTheLoader_data();
     void suffixPicksTheLoader();
+    void upperCaseSuffix_givesDepthAndChannels();
     void unknownSuffixesFail_data();
     void unknownSuffixesFail();
     void aLoaderReadsOnlyItsOwnFormat();
@@ -61,6 +62,22 @@ void TestImageLoadRegistry::suffixPicksTheLoader()
     QCOMPARE(image.width, 2);
     QCOMPARE(image.height, 1);
     QVERIFY(image.isLoaded());
+}
+
+void TestImageLoadRegistry::upperCaseSuffix_givesDepthAndChannels()
+{
+    const QString path = m_folder.filePath("Photo.JPG");
+    QVERIFY(writeImageFile(path, 2, 1, 3, FrameSample::Unsigned8, "abcdef"));
+    ImageData image;
+    QVERIFY(m_loaders.load(path, &image));
+    QCOMPARE(image.bitDepth, 8);
+    QCOMPARE(image.channels, 3);
+    QCOMPARE(image.dataSize, 6);
+    QVERIFY(writeImageFile(path, 2, 1, 1, FrameSample::Unsigned8, "ab"));
+    QVERIFY(m_loaders.load(path, &image));
+    QCOMPARE(image.bitDepth, 8);
+    QCOMPARE(image.channels, 1);
+    QCOMPARE(image.dataSize, 2);
 }
 
 void TestImageLoadRegistry::unknownSuffixesFail_data()

@@ -85,6 +85,7 @@ private Q_SLOTS:
     void wavelength_takesTheFields();
     void emptiedStart_isSentAsZero();
     void unit_sendsTheWavelengthTitle();
+    void unit_sendsTheWavelengthTitleWithPixelNumbers();
     void unknownIndices_haveNoTitle();
     void apply_inEveryMode();
     void apply_sendsWhatTheFieldHolds();
@@ -364,6 +365,14 @@ void TestCVKDisplayPreferences::unit_sendsTheWavelengthTitle()
     m_log.taken();
     child<QComboBox>("comboBoxUnits")->setCurrentIndex(0); // with pixel numbers it is disabled
     QCOMPARE(m_log.taken(), QStringList({ "title Wavelength  (um)" }));
+}
+
+void TestCVKDisplayPreferences::unit_sendsTheWavelengthTitleWithPixelNumbers()
+{
+    QCOMPARE(child<QComboBox>("comboBoxType")->currentText(), QString("Pixels Number"));
+    child<QComboBox>("comboBoxUnits")->setCurrentIndex(1); // disabled, so by a program alone
+    QCOMPARE(m_log.taken(), QStringList({ "title Wavelength  (nm)" }));
+    QVERIFY(!child<QWidget>("comboBoxUnits")->isEnabled());
 }
 
 void TestCVKDisplayPreferences::unknownIndices_haveNoTitle()

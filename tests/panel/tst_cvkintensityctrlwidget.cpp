@@ -83,6 +83,7 @@ private Q_SLOTS:
     void collapsing_closesTheGap();
     void resize_placesTheScrollArea();
     void resize_belowTheScrollAreasTop();
+    void resize_toTenPixelsAt96();
     void signals_areNeverSent();
 
     void panelDiesAlone();
@@ -313,6 +314,18 @@ void TestCVKIntensityCtrlWidget::resize_belowTheScrollAreasTop()
     m_panel->resize(290, 10);
     QCOMPARE(scrollArea()->y(), top);
     QVERIFY(scrollArea()->height() <= 0);
+}
+
+void TestCVKIntensityCtrlWidget::resize_toTenPixelsAt96()
+{
+    if (primaryDotsPerInch() != 96.0) {
+        QSKIP("worked out for 96 dots per inch");
+    }
+    QLoggingCategory::setFilterRules("*.debug=true");
+    m_panel->setMinimumSize(1, 1);
+    QTest::ignoreMessage(QtDebugMsg, "[resizeEvent]x: 0, y: 57, wid: 290, hei: -47\n"); // 10 - 57
+    m_panel->resize(290, 10);
+    QCOMPARE(scrollArea()->geometry(), QRect(0, 57, 290, 0)); // Qt takes it as no height
 }
 
 void TestCVKIntensityCtrlWidget::signals_areNeverSent()
