@@ -5,6 +5,13 @@
 
 namespace {
 
+using Widget = CVKIntensityWidget;
+
+// The limits of the panel's fields.
+constexpr int maxPeakCount = 200; // from 1 on
+constexpr int maxWavelengthStart = 2000; // from 0 on
+constexpr int maxPixelWidth = 100; // from 1 on
+
 QString readSize(const QString& value, CommandLine* line)
 {
     line->size = parsedSize(value);
@@ -15,50 +22,60 @@ QString readSize(const QString& value, CommandLine* line)
 
 QString readView(const QString& value, CommandLine* line)
 {
-    line->controls.view = value.toLower();
-    const bool known = QStringList { "image", "x", "y" }.contains(line->controls.view);
-    return known ? QString() : CommandLine::tr("--view needs image, x or y");
+    static const QHash<QString, Widget::View> views {
+        { "image", Widget::View::Image },
+        { "x", Widget::View::RowChart },
+        { "y", Widget::View::ColumnChart },
+    };
+    const auto view = views.constFind(value.toLower());
+    if (view == views.constEnd()) {
+        return CommandLine::tr("--view needs image, x or y");
+    }
+    line->settings.view = *view;
+    return QString();
 }
 
 QString readPeaks(const QString& value, CommandLine* line)
 {
-    line->controls.peakCount = parsedNumbers(value, 1).value(0);
-    const bool inside = line->controls.peakCount >= 1 && line->controls.peakCount <= maxPeakCount;
+    const Widget::PeakLabels labels { true, parsedNumbers(value, 1).value(0) };
+    line->settings.peakLabels = labels;
+    const bool inside = labels.count >= 1 && labels.count <= maxPeakCount;
     return inside ? QString()
                   : CommandLine::tr("--peaks needs a number from 1 to %1").arg(maxPeakCount);
 }
 
 QString readPalette(const QString& value, CommandLine* line)
 {
-    line->controls.palette = value.toLower();
-    return paletteNames().contains(line->controls.palette, Qt::CaseInsensitive)
-        ? QString()
-        : CommandLine::tr("--palette needs gray, red, green, blue or color");
-}
-
-/// Takes the unit off the end of a wavelength, if there is one.
-QString takenUnit(QString* value)
-{
-    for (const char* unit : { "um", "nm" }) {
-        if (value->endsWith(QString(",") + unit)) {
-            value->chop(3);
-            return unit;
+    for (const QString& palette : Widget::colorPalettes()) {
+        if (palette.compare(value, Qt::CaseInsensitive) == 0) {
+            line->settings.palette = palette;
+            return QString();
         }
     }
-    return QString();
+    return CommandLine::tr("--palette needs gray, red, green, blue or color");
+}
+
+/// Takes the unit off the end of a wavelength; micrometers when there is none.
+Widget::Unit takenUnit(QString* value)
+{
+    const bool isNanometers = value->endsWith(",nm");
+    if (isNanometers || value->endsWith(",um")) {
+        value->chop(3);
+    }
+    return isNanometers ? Widget::Unit::Nanometers : Widget::Unit::Micrometers;
 }
 
 QString readWavelength(const QString& value, CommandLine* line)
 {
     QString text = value;
-    ControlSettings& controls = line->controls;
-    controls.hasWavelength = true;
-    controls.wavelengthUnit = takenUnit(&text);
+    Widget::Calibration calibration;
+    calibration.unit = takenUnit(&text);
     const QVector<int> numbers = parsedNumbers(text, 2);
-    controls.wavelengthStart = numbers.value(0);
-    controls.pixelWidth = numbers.value(1);
-    const bool inside = controls.wavelengthStart <= maxWavelengthStart && controls.pixelWidth >= 1
-        && controls.pixelWidth <= maxPixelWidth;
+    calibration.start = numbers.value(0);
+    calibration.pixelWidth = numbers.value(1);
+    line->settings.calibration = calibration;
+    const bool inside = calibration.start <= maxWavelengthStart && calibration.pixelWidth >= 1
+        && calibration.pixelWidth <= maxPixelWidth;
     return inside
         ? QString()
         : CommandLine::tr(
@@ -71,7 +88,7 @@ QString readRegion(const QString& value, CommandLine* line)
 {
     const QVector<int> numbers = parsedNumbers(value, 4);
     const QRect region(numbers.value(0), numbers.value(1), numbers.value(2), numbers.value(3));
-    line->controls.regions << region;
+    line->settings.regions << region;
     return region.isEmpty()
         ? CommandLine::tr("--roi needs X,Y,WIDTH,HEIGHT in pixels from the top left")
         : QString();
@@ -118,7 +135,7 @@ QString contradiction(const CommandLine& line)
         if (line.size.isValid()) {
             return CommandLine::tr("--size goes with --screenshot");
         }
-        return line.controls.isEmpty()
+        return line.settings.isEmpty()
             ? QString()
             : CommandLine::tr("--view, --peaks, --palette, --roi and --wavelength go with "
                               "--screenshot");
@@ -126,8 +143,8 @@ QString contradiction(const CommandLine& line)
     if (line.image.isEmpty()) {
         return CommandLine::tr("--screenshot needs an image to show");
     }
-    const bool chart = line.controls.view == "x" || line.controls.view == "y";
-    return line.controls.peakCount > 0 && !chart
+    const bool isChart = line.settings.view && *line.settings.view != Widget::View::Image;
+    return line.settings.peakLabels && !isChart
         ? CommandLine::tr("--peaks goes with --view x or --view y")
         : QString();
 }
@@ -194,8 +211,8 @@ QString commandLineHelp()
         "  --view image|x|y        show the image, or its row or column as a chart\n"
         "  --peaks N               label the N strongest peaks of the chart, 1 to 200\n"
         "  --palette NAME          gray, red, green, blue or color\n"
-        "  --roi X,Y,WIDTH,HEIGHT  mark a region, in pixels from the top left; can be given more\n"
-        "                          than once, and prints what became of it on the screen\n"
+        "  --roi X,Y,WIDTH,HEIGHT  mark exactly these pixels, counted from the top left; can be\n"
+        "                          given more than once\n"
         "  --wavelength START,WIDTH[,UNIT]\n"
         "                          label the axis in wavelengths: that of the first pixel, 0 to\n"
         "                          2000, what each pixel adds, 1 to 100, and the unit, um or nm\n"

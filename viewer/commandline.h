@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controlsettings.h"
+#include "displaysettings.h"
 
 #include <QCoreApplication>
 #include <QSize>
@@ -16,7 +16,7 @@ public:
     QString image; ///< file to open, or folder to show; empty: none
     QString screenshot; ///< file to save the window to; empty: an ordinary session
     QSize size; ///< window size in pixels; not valid: that of a first start
-    ControlSettings controls; ///< of the panel, for a screenshot
+    DisplaySettings settings; ///< for a screenshot
     QString error; ///< one line; empty when the arguments make sense
 };
 

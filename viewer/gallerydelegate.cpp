@@ -14,7 +14,7 @@ const QColor currentColor(72, 172, 186);
 const QColor currentGround(26, 55, 62);
 const QColor nameColor(201, 210, 220);
 const QColor currentNameColor(250, 250, 250);
-constexpr qreal unreadableOpacity = 0.45;
+constexpr qreal refusedOpacity = 0.45;
 
 // Distances at 96 dots per inch.
 constexpr int gap = 5; // around a tile, half of what lies between two
@@ -44,7 +44,7 @@ void paintGround(QPainter* painter, const QRect& tile, QStyle::State state)
 
 GalleryDelegate::GalleryDelegate(QObject* parent)
     : QStyledItemDelegate(parent)
-    , m_unreadable(scaledPicture(":/viewer/problem.png", 64))
+    , m_refused(scaledPicture(":/viewer/problem.png", 64))
 {
 }
 
@@ -90,15 +90,16 @@ void GalleryDelegate::paint(
 void GalleryDelegate::paintPicture(
     QPainter* painter, const QRect& frame, const QModelIndex& index) const
 {
-    if (index.data(GalleryModel::StateRole).toInt() == int(GalleryModel::State::Unreadable)) {
-        painter->setOpacity(unreadableOpacity);
-        const QRectF place = centred(m_unreadable.size(), frame);
-        painter->drawPixmap(place, m_unreadable, m_unreadable.rect());
+    const auto state = GalleryModel::State(index.data(GalleryModel::StateRole).toInt());
+    if (state == GalleryModel::State::Refused) {
+        painter->setOpacity(refusedOpacity);
+        painter->drawPixmap(centred(m_refused.size(), frame), m_refused, m_refused.rect());
         painter->setOpacity(1.0);
-        return;
-    }
-    const auto picture = index.data(GalleryModel::PictureRole).value<QImage>();
-    if (!picture.isNull()) {
+    } else if (state == GalleryModel::State::TooLarge) {
+        painter->setPen(nameColor);
+        painter->drawText(frame, Qt::AlignCenter | Qt::TextWordWrap, tr("Large image"));
+    } else if (state == GalleryModel::State::Ready) {
+        const auto picture = index.data(GalleryModel::PictureRole).value<QImage>();
         const qreal ratio = painter->device()->devicePixelRatioF();
         painter->drawImage(centred(QSizeF(picture.size()) / ratio, frame), picture);
     }

@@ -5,8 +5,8 @@
 #include <QStyledItemDelegate>
 
 /// Paints the tiles of a gallery, all of the same size: the picture in the middle of a frame, the
-/// file's name in one line below it. A file without a picture has an empty frame while it waits
-/// and a crossed-out one when it cannot be read.
+/// file's name in one line below it. A file without a picture has an empty frame while it waits,
+/// a crossed-out one when it cannot be shown, and one that says so when it is too large.
 class GalleryDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -25,5 +25,5 @@ public:
 private:
     void paintPicture(QPainter* painter, const QRect& frame, const QModelIndex& index) const;
 
-    QPixmap m_unreadable;
+    QPixmap m_refused;
 };

@@ -1,5 +1,21 @@
 #include "gallerymodel.h"
 
+#include "imagetexts.h"
+
+namespace {
+
+GalleryModel::State stateOf(const QImage& picture, CVKIntensityWidget::LoadProblem problem)
+{
+    if (!picture.isNull()) {
+        return GalleryModel::State::Ready;
+    }
+    return problem == CVKIntensityWidget::LoadProblem::OverPixelLimit
+        ? GalleryModel::State::TooLarge
+        : GalleryModel::State::Refused;
+}
+
+} // namespace
+
 GalleryModel::GalleryModel(qint64 byteLimit, QObject* parent)
     : QAbstractListModel(parent)
     , m_byteLimit(byteLimit)
@@ -53,7 +69,8 @@ QVector<ThumbnailRequest> GalleryModel::waiting() const
     return requests;
 }
 
-bool GalleryModel::setPicture(int row, const QImage& picture)
+bool GalleryModel::setPicture(
+    int row, const QImage& picture, CVKIntensityWidget::LoadProblem problem)
 {
     if (!isRow(row)) {
         return false;
@@ -65,7 +82,8 @@ bool GalleryModel::setPicture(int row, const QImage& picture)
     }
     m_bytes = bytes;
     entry.picture = picture;
-    entry.state = picture.isNull() ? State::Unreadable : State::Ready;
+    entry.problem = problem;
+    entry.state = stateOf(picture, problem);
     Q_EMIT dataChanged(index(row), index(row));
     return true;
 }
@@ -85,6 +103,21 @@ int GalleryModel::rowCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : int(m_entries.size());
 }
 
+/// The name, and why there is no picture.
+QString GalleryModel::toolTip(const Entry& entry) const
+{
+    QStringList lines { entry.name };
+    if (entry.state == State::TooLarge) {
+        lines << tr("Too large for a small picture; it can be opened.");
+    } else if (entry.state == State::Refused) {
+        lines << problemText(entry.path, entry.problem);
+    }
+    for (QString& line : lines) {
+        line = line.toHtmlEscaped();
+    }
+    return lines.join("<br>");
+}
+
 QVariant GalleryModel::data(const QModelIndex& index, int role) const
 {
     if (!isRow(index.row())) {
@@ -93,7 +126,7 @@ QVariant GalleryModel::data(const QModelIndex& index, int role) const
     const Entry& entry = m_entries.at(index.row());
     switch (role) {
     case Qt::DisplayRole: return entry.name;
-    case Qt::ToolTipRole: return entry.name.toHtmlEscaped();
+    case Qt::ToolTipRole: return toolTip(entry);
     case PathRole: return pathAt(index.row());
     case PictureRole: return entry.picture;
     case StateRole: return int(entry.state);

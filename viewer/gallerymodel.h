@@ -19,7 +19,8 @@ public:
     enum class State {
         Waiting, ///< no picture yet
         Ready,
-        Unreadable
+        TooLarge, ///< can be opened, but a picture would take too much memory
+        Refused ///< is not shown when it is opened either
     };
 
     enum Role {
@@ -37,9 +38,9 @@ public:
     /// The rows whose picture has still to be made, rising.
     QVector<ThumbnailRequest> waiting() const;
 
-    /// Takes the picture of a row; null: the file is unreadable. False, with nothing kept, when
-    /// the row does not exist or no more bytes may be kept.
-    bool setPicture(int row, const QImage& picture);
+    /// Takes the picture of a row, or the problem that there is instead. False, with nothing kept,
+    /// when the row does not exist or no more bytes may be kept.
+    bool setPicture(int row, const QImage& picture, CVKIntensityWidget::LoadProblem problem);
 
     QString pathAt(int row) const; ///< empty outside
     int rowOf(const QString& path) const; ///< -1 when it is not shown
@@ -55,10 +56,12 @@ private:
         qint64 fileSize = 0; // as of setFiles(), as the date: a QFileInfo would look them up late
         QDateTime modified;
         QImage picture;
+        CVKIntensityWidget::LoadProblem problem = CVKIntensityWidget::LoadProblem::None;
         State state = State::Waiting;
     };
 
     bool isRow(int row) const { return row >= 0 && row < m_entries.size(); }
+    QString toolTip(const Entry& entry) const;
     Entry entryFor(const QFileInfo& file) const;
 
     const qint64 m_byteLimit;

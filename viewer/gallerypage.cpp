@@ -143,9 +143,10 @@ void GalleryPage::startLoading()
     m_progress->setVisible(m_loader.isLoading());
 }
 
-void GalleryPage::takePicture(int row, const QImage& picture)
+void GalleryPage::takePicture(
+    int row, const QImage& picture, CVKIntensityWidget::LoadProblem problem)
 {
-    if (!m_model.setPicture(row, picture)) {
+    if (!m_model.setPicture(row, picture, problem)) {
         stopLoading(); // thousands have come; the rest stands without
         return;
     }

@@ -47,7 +47,7 @@ private:
     QListView* createView();
     void describeFolder();
     void startLoading();
-    void takePicture(int row, const QImage& picture);
+    void takePicture(int row, const QImage& picture, CVKIntensityWidget::LoadProblem problem);
     void preferVisible();
     void select(const QString& path);
 

@@ -1,13 +1,25 @@
 #include "imagepage.h"
 
-#include "controldriver.h"
-#include "cvkintensitywidget.h"
-#include "imagefiles.h"
-
-#include <QAbstractButton>
 #include <QComboBox>
-#include <QRadioButton>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QVBoxLayout>
+
+namespace {
+
+/// Whether the widget takes page keys itself, or would be left in the middle of a number by them.
+bool isField(const QWidget* focused)
+{
+    return qobject_cast<const QLineEdit*>(focused) || qobject_cast<const QComboBox*>(focused);
+}
+
+bool isPageKey(const QKeyEvent& key)
+{
+    return key.modifiers() == Qt::NoModifier
+        && (key.key() == Qt::Key_PageUp || key.key() == Qt::Key_PageDown);
+}
+
+} // namespace
 
 ImagePage::ImagePage(QWidget* parent)
     : QWidget(parent)
@@ -18,65 +30,85 @@ ImagePage::ImagePage(QWidget* parent)
     createWidget();
 }
 
-/// Makes a fresh intensity widget in place of the one there is.
 void ImagePage::createWidget()
 {
-    if (m_widget) {
-        m_widget->hide();
-        layout()->removeWidget(m_widget);
-        m_widget->deleteLater();
-    }
     m_widget = new CVKIntensityWidget(this); // its panel looks for the slot in its parent
+    m_widget->setReading(CVKIntensityWidget::Reading::Faithful);
+    m_widget->setListener(this);
     layout()->addWidget(m_widget);
     m_widget->show();
     layout()->activate(); // a load asks for the size at once
-    m_controls = ImageControls(m_widget);
-    m_controls.prepare();
-    for (const auto* button : m_widget->findChildren<QRadioButton*>()) {
-        connect(button, &QRadioButton::toggled, this, &ImagePage::viewChanged);
-    }
-    if (auto* axis = m_widget->findChild<QComboBox*>("comboBoxDisplay")) {
-        connect(
-            axis, qOverload<int>(&QComboBox::currentIndexChanged), this, &ImagePage::viewChanged);
-    }
+    m_access = WidgetAccess(m_widget);
+    m_access.prepare();
 }
 
-bool ImagePage::load(const QString& path)
+CVKIntensityWidget* ImagePage::intensityWidget()
 {
     if (!m_widget) {
         createWidget();
     }
-    closeImage();
-    m_controls.forgetPalette();
-    if (isHugeRawFileCutShort(path) || !m_widget->loadImage(path)) {
+    return m_widget;
+}
+
+QWidget* ImagePage::canvas()
+{
+    intensityWidget();
+    return m_access.canvas();
+}
+
+bool ImagePage::load(const QString& path)
+{
+    if (!intensityWidget()->loadImage(path)) {
+        closeImage();
         return false;
     }
-    if (isRawFileWithoutPixels(path)) {
-        createWidget(); // it loads, but its canvas keeps the picture before
-        return false;
-    }
+    m_access.layOutCanvas();
     return true;
 }
 
 void ImagePage::closeImage()
 {
-    if (!m_widget) {
-        return;
-    }
-    m_widget->closeImage();
-    if (auto* button = m_widget->findChild<QAbstractButton*>("Return")) {
-        button->setChecked(false);
-    }
-}
-
-void ImagePage::apply(const ControlSettings& settings, const QSize& imageSize)
-{
     if (m_widget) {
-        ControlDriver(m_widget, imageSize).apply(settings);
+        m_widget->closeImage();
+        m_access.releaseReturnButton();
     }
 }
 
 void ImagePage::sltSwitchToGallery()
 {
     Q_EMIT returnRequested();
+}
+
+void ImagePage::viewChanged()
+{
+    Q_EMIT displayChanged();
+}
+
+/// A click on a region marks it on the canvas alone. The panel follows, so that both mean the
+/// region that Delete removes; where the user chooses none in the panel, the mark may stay.
+void ImagePage::selectionChanged()
+{
+    const int marked = m_widget->markedRegion();
+    const bool isMarkedAnew = marked != m_markedRegion;
+    m_markedRegion = marked;
+    if (isMarkedAnew && marked >= 0 && marked != m_widget->selectedRegion()) {
+        m_widget->selectRegion(marked);
+    }
+    const int selected = m_widget->selectedRegion();
+    if (selected >= 0 && selected != m_selectedRegion) {
+        m_access.showStatistics();
+    }
+    m_selectedRegion = selected;
+    Q_EMIT displayChanged();
+}
+
+/// Page keys pressed in a field of the panel do not lead to another image.
+bool ImagePage::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride && isField(window()->focusWidget())
+        && isPageKey(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
 }

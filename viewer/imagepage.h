@@ -1,15 +1,14 @@
 #pragma once
 
-#include "imagecontrols.h"
+#include "cvkintensitywidget.h"
+#include "widgetaccess.h"
 
 #include <QPointer>
 #include <QWidget>
 
-class CVKIntensityWidget;
-
-/// The page of an image: an intensity widget and what else works its controls. A fresh widget takes
-/// the place of one that was closed or cannot be used any more.
-class ImagePage : public QWidget
+/// The page of an image: an intensity widget, which is asked and told through its members. A fresh
+/// widget takes the place of one that was closed.
+class ImagePage : public QWidget, private CVKIntensityWidget::Listener
 {
     Q_OBJECT
 
@@ -17,18 +16,19 @@ public:
     explicit ImagePage(QWidget* parent = nullptr);
 
     /// Shows the file in place of the image that is open. To be called with the page in front,
-    /// since only the page in front has its size. False when there is nothing to show: the canvas
-    /// is then as it was, and another page belongs in front.
+    /// since only the page in front has its size. False when the file is not shown: no image is
+    /// open then, and another page belongs in front.
     bool load(const QString& path);
 
     /// Closes the image, if one is open, and brings the button that asked for it, if it did, back
     /// up.
     void closeImage();
 
-    /// Sets the controls for the image that was just loaded; its size is `imageSize`, in pixels.
-    void apply(const ControlSettings& settings, const QSize& imageSize);
+    /// Never null. Belongs to the page, which replaces it once it has been closed.
+    CVKIntensityWidget* intensityWidget();
 
-    ImageControls* controls() { return &m_controls; }
+    /// The canvas alone, without the panel.
+    QWidget* canvas();
 
 public Q_SLOTS:
     /// The Return button of the intensity widget calls this by name.
@@ -37,12 +37,19 @@ public Q_SLOTS:
 Q_SIGNALS:
     void returnRequested();
 
-    /// Another view of the image is shown.
-    void viewChanged();
+    /// Another view of the image is shown, or another region selected.
+    void displayChanged();
+
+protected:
+    bool event(QEvent* event) override;
 
 private:
+    void viewChanged() override;
+    void selectionChanged() override;
     void createWidget();
 
     QPointer<CVKIntensityWidget> m_widget; // deletes itself when it is closed
-    ImageControls m_controls; // of that widget
+    WidgetAccess m_access; // to that widget
+    int m_markedRegion = -1; // as last told
+    int m_selectedRegion = -1;
 };

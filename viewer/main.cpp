@@ -155,10 +155,6 @@ int main(int argc, char* argv[])
         return runWindow(&window, line.image);
     }
     window.resize(startSize()); // a picture may be larger than the screen
-    QStringList report;
-    const QString problem = takeScreenshot(&window, line, &report);
-    for (const QString& reported : report) {
-        std::puts(qUtf8Printable(reported));
-    }
+    const QString problem = takeScreenshot(&window, line);
     return problem.isEmpty() ? 0 : fail(problem);
 }

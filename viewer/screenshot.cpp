@@ -1,9 +1,6 @@
 #include "screenshot.h"
 
 #include "commandline.h"
-#include "controldriver.h"
-#include "cvkintensitywidget.h"
-#include "imagefiles.h"
 #include "picturefile.h"
 #include "quietstderr.h"
 #include "viewerwindow.h"
@@ -12,7 +9,6 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QGuiApplication>
-#include <QLabel>
 #include <QTimer>
 #include <QWindow>
 #include <QtMath>
@@ -90,49 +86,9 @@ QString sizeProblem(const ViewerWindow& window, const QSize& size)
         .arg(least.height());
 }
 
-QString regionProblem(const QVector<QRect>& regions, const QSize& imageSize)
-{
-    if (!regions.isEmpty() && imageSize.isEmpty()) {
-        return Screenshot::tr("the size of the image cannot be told");
-    }
-    for (const QRect& region : regions) {
-        if (!QRect(QPoint(), imageSize).contains(region)) {
-            return Screenshot::tr(
-                "the region %1,%2,%3,%4 does not lie inside the image of %5x%6 pixels")
-                .arg(region.x())
-                .arg(region.y())
-                .arg(region.width())
-                .arg(region.height())
-                .arg(imageSize.width())
-                .arg(imageSize.height());
-        }
-    }
-    return QString();
-}
-
-QString setControls(ViewerWindow* window, const CommandLine& line, QStringList* report)
-{
-    auto* intensityWidget = window->findChild<CVKIntensityWidget*>();
-    if (!intensityWidget || !intensityWidget->isVisible()) {
-        return Screenshot::tr("%1: only an image has controls to set").arg(line.image);
-    }
-    const QSize size = imageSize(line.image);
-    const QString outside = regionProblem(line.controls.regions, size);
-    if (!outside.isEmpty()) {
-        return QString("%1: %2").arg(line.image, outside);
-    }
-    ControlDriver driver(intensityWidget, size);
-    const QString problem = driver.apply(line.controls);
-    *report = driver.report();
-    if (QWidget* focused = window->focusWidget()) {
-        focused->clearFocus(); // no cursor blinks in the picture
-    }
-    return problem;
-}
-
 } // namespace
 
-QString takeScreenshot(ViewerWindow* window, const CommandLine& line, QStringList* report)
+QString takeScreenshot(ViewerWindow* window, const CommandLine& line)
 {
     const QString tooSmall = sizeProblem(*window, line.size);
     if (!tooSmall.isEmpty()) {
@@ -141,17 +97,17 @@ QString takeScreenshot(ViewerWindow* window, const CommandLine& line, QStringLis
     if (line.size.isValid()) {
         window->resize(coveringSize(line.size, window->devicePixelRatioF()));
     }
-    window->findChild<QLabel*>("statusLoadTime")->hide(); // the same image, the same picture
+    window->hideLoadTime(); // the same image, the same picture
     window->show();
     settle(*window);
     if (!openQuietly(window, line.image)) {
         return QString("%1: %2").arg(line.image, window->problem());
     }
     settle(*window);
-    if (!line.controls.isEmpty()) {
-        const QString problem = setControls(window, line, report);
+    if (!line.settings.isEmpty()) {
+        const QString problem = window->applySettings(line.settings);
         if (!problem.isEmpty()) {
-            return problem;
+            return QString("%1: %2").arg(line.image, problem);
         }
         settle(*window);
     }

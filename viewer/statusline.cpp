@@ -72,3 +72,8 @@ void StatusLine::showImage(const QString& summary, qint64 milliseconds)
     m_summary->setText(summary);
     m_time->setText(durationText(milliseconds));
 }
+
+void StatusLine::hideTime()
+{
+    m_time->hide();
+}

@@ -6,8 +6,8 @@ class ElidedLabel;
 class QLabel;
 class QProgressBar;
 
-/// The line at the bottom of the window: name of the file, progress of a long load, size and depth
-/// of the image, and the time that it took to load.
+/// The line at the bottom of the window: name of the file, progress of a long load, what is known
+/// about the image, and the time that it took to load.
 class StatusLine : public QStatusBar
 {
     Q_OBJECT
@@ -29,6 +29,9 @@ public:
 
     /// Adds what is known about the image behind the name.
     void showImage(const QString& summary, qint64 milliseconds);
+
+    /// Leaves the time out from now on.
+    void hideTime();
 
 private:
     ElidedLabel* m_name;

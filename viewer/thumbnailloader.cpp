@@ -1,7 +1,5 @@
 #include "thumbnailloader.h"
 
-#include "thumbnails.h"
-
 #include <QMutex>
 #include <QThread>
 
@@ -119,20 +117,24 @@ void ThumbnailLoader::work(const std::shared_ptr<Batch>& batch, const QSize& bou
 {
     ThumbnailRequest request;
     while (batch->take(&request)) {
-        const QImage picture = thumbnail(request.path, bounds);
-        const auto answer
-            = [this, batch, row = request.row, picture] { deliver(batch.get(), row, picture); };
+        auto problem = CVKIntensityWidget::LoadProblem::None;
+        const QImage picture
+            = CVKIntensityWidget::preview(request.path, bounds, thumbnailPixelLimit, &problem);
+        const auto answer = [this, batch, row = request.row, picture, problem] {
+            deliver(batch.get(), row, picture, problem);
+        };
         QMetaObject::invokeMethod(this, answer, Qt::QueuedConnection);
     }
 }
 
-void ThumbnailLoader::deliver(const Batch* batch, int row, const QImage& picture)
+void ThumbnailLoader::deliver(
+    const Batch* batch, int row, const QImage& picture, CVKIntensityWidget::LoadProblem problem)
 {
     if (batch != m_batch.get()) {
         return; // cancelled meanwhile
     }
     --m_missing;
-    Q_EMIT loaded(row, picture);
+    Q_EMIT loaded(row, picture, problem);
     if (batch == m_batch.get() && m_missing == 0) {
         m_batch.reset();
         Q_EMIT finished();

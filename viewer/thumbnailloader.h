@@ -1,5 +1,7 @@
 #pragma once
 
+#include "cvkintensitywidget.h"
+
 #include <QImage>
 #include <QObject>
 #include <QSize>
@@ -7,6 +9,10 @@
 #include <QVector>
 
 #include <memory>
+
+/// Most pixels of a file that a small picture is made of: 2^25, which decoded take 256 MiB with the
+/// three 16-bit channels of a color image and the gray values made of them.
+constexpr qint64 thumbnailPixelLimit = qint64(1) << 25;
 
 /// One picture to make.
 struct ThumbnailRequest
@@ -36,15 +42,17 @@ public:
     void preferFrom(int row);
 
 Q_SIGNALS:
-    /// `picture` is null when the file cannot be read.
-    void loaded(int row, const QImage& picture);
+    /// `picture` is null when there is a `problem`, of which OverPixelLimit does not keep the file
+    /// from being opened.
+    void loaded(int row, const QImage& picture, CVKIntensityWidget::LoadProblem problem);
     void finished(); ///< every picture of the batch has been announced
 
 private:
     class Batch;
 
     void work(const std::shared_ptr<Batch>& batch, const QSize& bounds);
-    void deliver(const Batch* batch, int row, const QImage& picture);
+    void deliver(const Batch* batch, int row, const QImage& picture,
+        CVKIntensityWidget::LoadProblem problem);
 
     std::shared_ptr<Batch> m_batch; // null when nothing is being loaded
     int m_missing = 0; // pictures of the batch not announced yet

@@ -1,6 +1,5 @@
 #include "viewermenu.h"
 
-#include "imagecontrols.h"
 #include "recentfiles.h"
 
 #include <QAction>
@@ -105,6 +104,9 @@ void ViewerMenu::buildEditMenu()
         { QKeySequence("Ctrl+C") });
     add(menu, ViewerCommand::CopyCanvas, "actionCopyCanvas", tr("Copy C&anvas"),
         { QKeySequence("Ctrl+Shift+C") }, Needs::Image);
+    menu->addSeparator();
+    add(menu, ViewerCommand::DeleteRegion, "actionDeleteRegion", tr("&Delete Region"),
+        { QKeySequence(Qt::Key_Delete) });
 }
 
 void ViewerMenu::buildViewMenu()
@@ -151,7 +153,7 @@ void ViewerMenu::addPalettes(QMenu* menu)
     const QStringList texts { tr("&Gray"), tr("&Red"), tr("Gr&een"), tr("&Blue"), tr("&Color") };
     const QStringList helps { tr("Gray palette"), tr("Red palette"), tr("Green palette"),
         tr("Blue palette"), tr("Color palette") };
-    const QStringList names = paletteNames();
+    const QStringList names = CVKIntensityWidget::colorPalettes();
     for (int i = 0; i < names.size(); ++i) {
         QAction* action = menu->addAction(texts[i]);
         action->setObjectName("actionPalette" + names[i]);
@@ -188,7 +190,7 @@ void ViewerMenu::setZoomAvailable(bool available)
     }
 }
 
-void ViewerMenu::markView(ImageView view)
+void ViewerMenu::markView(CVKIntensityWidget::View view)
 {
     m_viewActions[int(view)]->setChecked(true);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cvkintensitywidget.h"
 #include "helpoverlay.h"
 
 #include <QHash>
@@ -11,7 +12,6 @@
 class QAction;
 class QMainWindow;
 class QMenu;
-enum class ImageView;
 
 /// What the menus offer beside recent files and palettes.
 enum class ViewerCommand {
@@ -27,6 +27,7 @@ enum class ViewerCommand {
     Quit,
     CopyWindow,
     CopyCanvas,
+    DeleteRegion,
     ZoomIn,
     ZoomOut,
     ImageView,
@@ -57,7 +58,7 @@ public:
     /// Whether the zoom buttons are there to be clicked.
     void setZoomAvailable(bool available);
 
-    void markView(ImageView view);
+    void markView(CVKIntensityWidget::View view);
 
     /// One entry a text, RecentFiles::most of them at most.
     void setRecentFiles(const QStringList& texts);
@@ -69,7 +70,7 @@ public:
 
 Q_SIGNALS:
     void recentFileChosen(int index);
-    void paletteChosen(const QString& name); ///< one of paletteNames()
+    void paletteChosen(const QString& name); ///< one of CVKIntensityWidget::colorPalettes()
 
 private:
     enum class Needs { Nothing, File, Image };
@@ -92,5 +93,5 @@ private:
     QList<QAction*> m_imageActions;
     QList<QAction*> m_fileActions;
     QList<QAction*> m_zoomActions;
-    QList<QAction*> m_viewActions; // in the order of ImageView
+    QList<QAction*> m_viewActions; // in the order of CVKIntensityWidget::View
 };

@@ -1,10 +1,13 @@
 #include "viewerwindow.h"
 
 #include "appearance.h"
+#include "displaysettings.h"
+#include "filedrop.h"
 #include "gallerypage.h"
 #include "helpoverlay.h"
 #include "imagefiles.h"
 #include "imagepage.h"
+#include "imagetexts.h"
 #include "pages.h"
 #include "picturefile.h"
 #include "readahead.h"
@@ -22,7 +25,6 @@
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QPointer>
 #include <QSettings>
 #include <QStackedWidget>
@@ -88,26 +90,36 @@ void ViewerWindow::createMenu()
         connect(m_menu->action(command), &QAction::triggered, this, slot);
     }
     connect(m_menu, &ViewerMenu::recentFileChosen, this, &ViewerWindow::openRecentFile);
-    connectControls();
+    connectImage();
 }
 
 /// What the menus do to the image in front.
-void ViewerWindow::connectControls()
+void ViewerWindow::connectImage()
 {
-    ImageControls* controls = m_imagePage->controls();
-    const QVector<QPair<ViewerCommand, std::function<void()>>> commands {
-        { ViewerCommand::ZoomIn, [controls] { controls->zoomIn(); } },
-        { ViewerCommand::ZoomOut, [controls] { controls->zoomOut(); } },
-        { ViewerCommand::ImageView, [controls] { controls->showView(ImageView::Image); } },
-        { ViewerCommand::RowChart, [controls] { controls->showView(ImageView::Row); } },
-        { ViewerCommand::ColumnChart, [controls] { controls->showView(ImageView::Column); } },
+    using Widget = CVKIntensityWidget;
+    const QVector<QPair<ViewerCommand, std::function<void(Widget*)>>> commands {
+        { ViewerCommand::DeleteRegion,
+            [](Widget* image) { image->removeRegion(image->selectedRegion()); } },
+        { ViewerCommand::ZoomIn, [](Widget* image) { image->zoomIn(); } },
+        { ViewerCommand::ZoomOut, [](Widget* image) { image->zoomOut(); } },
+        { ViewerCommand::ImageView, [](Widget* image) { image->setView(Widget::View::Image); } },
+        { ViewerCommand::RowChart, [](Widget* image) { image->setView(Widget::View::RowChart); } },
+        { ViewerCommand::ColumnChart,
+            [](Widget* image) { image->setView(Widget::View::ColumnChart); } },
     };
     for (const auto& [command, call] : commands) {
-        connect(m_menu->action(command), &QAction::triggered, m_imagePage, call);
+        connect(m_menu->action(command), &QAction::triggered, m_imagePage,
+            [page = m_imagePage, call = call] { call(page->intensityWidget()); });
     }
-    connect(m_menu, &ViewerMenu::paletteChosen, m_imagePage,
-        [controls](const QString& name) { controls->choosePalette(name); });
-    connect(m_imagePage, &ImagePage::viewChanged, this, &ViewerWindow::updateMenu);
+    connect(m_menu, &ViewerMenu::paletteChosen, this, &ViewerWindow::choosePalette);
+    connect(m_imagePage, &ImagePage::displayChanged, this, &ViewerWindow::updateMenu);
+}
+
+void ViewerWindow::choosePalette(const QString& name)
+{
+    if (!m_imagePage->intensityWidget()->setColorPalette(name)) {
+        m_status->showMessage(tr("The palette %1 cannot be read.").arg(name), messageMilliseconds);
+    }
 }
 
 void ViewerWindow::createPages()
@@ -152,11 +164,14 @@ void ViewerWindow::updateMenu()
 {
     const QWidget* page = m_pages->currentWidget();
     const bool isImage = page == m_imagePage;
-    const ImageView view = m_imagePage->controls()->shownView();
+    const CVKIntensityWidget* image = m_imagePage->intensityWidget();
+    const CVKIntensityWidget::View view = image->view();
     const bool isFile = isImage || page == m_problemPage;
     m_menu->setAvailable(isImage, isFile);
     m_menu->action(ViewerCommand::Reload)->setEnabled(isFile || page == m_galleryPage);
-    m_menu->setZoomAvailable(isImage && view == ImageView::Image);
+    m_menu->setZoomAvailable(isImage && view == CVKIntensityWidget::View::Image);
+    m_menu->action(ViewerCommand::DeleteRegion)
+        ->setEnabled(isImage && image->selectedRegion() >= 0);
     m_menu->markView(view);
     const RecentFiles& files = m_session.recentFiles();
     QStringList recent;
@@ -185,7 +200,7 @@ bool ViewerWindow::openFile(const QString& path)
     m_session.addRecentFile(m_file);
     updateMenu();
     nameFile(path);
-    m_status->showImage(imageSummary(path), clock.elapsed());
+    m_status->showImage(imageSummary(m_imagePage->intensityWidget()->imageInfo()), clock.elapsed());
     return true;
 }
 
@@ -193,7 +208,7 @@ bool ViewerWindow::openFile(const QString& path)
 bool ViewerWindow::loadIntoPage(const QString& path)
 {
     nameFile(path);
-    if (QFileInfo(path).size() > smallFileSize && mayBeImage(path)) {
+    if (QFileInfo(path).size() > smallFileSize && hasImageSuffix(path)) {
         m_status->show(); // also on a full screen
         m_status->showLoading(QFileInfo(path).fileName());
         readAhead(path, [this](int percent) { m_status->showProgress(percent); });
@@ -204,7 +219,8 @@ bool ViewerWindow::loadIntoPage(const QString& path)
 
 void ViewerWindow::showProblem(const QString& path)
 {
-    m_problemPage->showProblem(path, loadProblem(path));
+    const auto problem = m_imagePage->intensityWidget()->loadProblem();
+    m_problemPage->showProblem(path, problemText(path, problem));
     showPage(m_problemPage);
     nameFile(path);
 }
@@ -352,34 +368,46 @@ void ViewerWindow::reload()
     }
 }
 
-/// The file has changed on disk. Regions of interest would be lost, so then the user decides; and
-/// nothing is replaced under a pressed button.
+/// The file has changed on disk. Nothing is replaced under a pressed button.
 void ViewerWindow::followFile()
 {
     const QWidget* page = m_pages->currentWidget();
     if (page != m_imagePage && page != m_problemPage) {
         return;
     }
-    if (page == m_imagePage && m_imagePage->controls()->regionCount() > 0) {
-        m_status->showMessage(tr("The file has changed. F5 loads it again, without the regions."));
-    } else if (QApplication::mouseButtons() == Qt::NoButton) {
+    if (QApplication::mouseButtons() == Qt::NoButton) {
         reloadImage();
     } else {
         QTimer::singleShot(FileWatch::restMilliseconds, this, &ViewerWindow::followFile);
     }
 }
 
-/// Opens the file and sets the controls as they were.
+/// Opens the file and shows it as it was shown.
 void ViewerWindow::reloadImage()
 {
-    const ControlSettings settings = m_imagePage->controls()->settings();
+    const DisplaySettings settings = displaySettings(*m_imagePage->intensityWidget());
     const QPointer<QWidget> focused = focusWidget();
-    if (openFile(m_file) && !settings.isEmpty()) {
-        m_imagePage->apply(settings, imageSize(m_file));
+    if (openFile(m_file)) {
+        const QString problem = applySettings(settings);
+        if (!problem.isEmpty()) {
+            m_status->showMessage(tr("Not all is as before: %1.").arg(problem));
+        }
     }
     if (focused && focused->isVisible()) {
         focused->setFocus();
     }
+}
+
+QString ViewerWindow::applySettings(const DisplaySettings& settings)
+{
+    return m_pages->currentWidget() == m_imagePage
+        ? ::applySettings(settings, m_imagePage->intensityWidget())
+        : tr("only an image has controls to set");
+}
+
+void ViewerWindow::hideLoadTime()
+{
+    m_status->hideTime();
 }
 
 void ViewerWindow::openRecentFile(int index)
@@ -409,10 +437,8 @@ void ViewerWindow::copyWindow()
 
 void ViewerWindow::copyCanvas()
 {
-    if (QWidget* canvas = m_imagePage->controls()->canvas()) {
-        QApplication::clipboard()->setPixmap(canvas->grab());
-        m_status->showMessage(tr("The canvas is on the clipboard."), messageMilliseconds);
-    }
+    QApplication::clipboard()->setPixmap(m_imagePage->canvas()->grab());
+    m_status->showMessage(tr("The canvas is on the clipboard."), messageMilliseconds);
 }
 
 void ViewerWindow::saveScreenshot()
@@ -484,26 +510,16 @@ void ViewerWindow::closeEvent(QCloseEvent* event)
     QMainWindow::closeEvent(event);
 }
 
-QString ViewerWindow::draggedFile(const QMimeData* data)
-{
-    const QList<QUrl> urls = data->urls();
-    return urls.size() == 1 && urls.first().isLocalFile() ? urls.first().toLocalFile() : QString();
-}
-
 void ViewerWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!draggedFile(event->mimeData()).isEmpty()) {
-        event->acceptProposedAction();
-    }
+    acceptedFile(event);
 }
 
 void ViewerWindow::dropEvent(QDropEvent* event)
 {
-    const QString path = draggedFile(event->mimeData());
-    if (path.isEmpty()) {
-        return;
+    const QString path = acceptedFile(event);
+    if (!path.isEmpty()) {
+        // The program that the file comes from waits until the event is answered.
+        QTimer::singleShot(0, this, [this, path] { openPath(path); });
     }
-    event->acceptProposedAction();
-    // The program that the file comes from waits until the event is answered.
-    QTimer::singleShot(0, this, [this, path] { openPath(path); });
 }

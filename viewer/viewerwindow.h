@@ -11,12 +11,12 @@ class GalleryPage;
 class HelpOverlay;
 class ImagePage;
 class LoadProblemPage;
-class QMimeData;
 class QSettings;
 class QStackedWidget;
 class StatusLine;
 class ViewerMenu;
 class WelcomePage;
+struct DisplaySettings;
 
 /// The program's window: one image at a time in an intensity widget, the gallery of a folder, or a
 /// page in their place.
@@ -48,8 +48,12 @@ public:
     /// Why the file last opened is not shown; empty when it is, or when none is open.
     QString problem() const;
 
-    /// Whether a drag carries exactly one local file; its path, or an empty string.
-    static QString draggedFile(const QMimeData* data);
+    /// Sets how the image in front is shown. Returns one line that says what went wrong; empty on
+    /// success.
+    QString applySettings(const DisplaySettings& settings);
+
+    /// Takes the time of the load, which is another one each time, off the status line.
+    void hideLoadTime();
 
 public Q_SLOTS:
     void chooseFile();
@@ -72,7 +76,8 @@ public Q_SLOTS:
     void showPrevious();
 
     /// Opens the file once more, or looks at the folder of the gallery once more. View, palette,
-    /// peaks and wavelengths stay, regions of interest do not.
+    /// peaks, wavelengths and regions of interest stay, apart from regions that lie outside the
+    /// image if that has become smaller.
     void reload();
 
     void openRecentFile(int index);
@@ -99,7 +104,8 @@ protected:
 private:
     void createPages();
     void createMenu();
-    void connectControls();
+    void connectImage();
+    void choosePalette(const QString& name);
     void openSoon(const QString& path);
     void followFile();
     void reloadImage();

@@ -2,6 +2,8 @@
 
 #include <QtTest>
 
+using Widget = CVKIntensityWidget;
+
 class TestCommandLine : public QObject
 {
     Q_OBJECT
@@ -14,9 +16,9 @@ private Q_SLOTS:
     void dashesEndTheOptions();
     void size_data();
     void size();
-    void controls_areReadIntoTheirFields();
-    void controls_names_inAnyCase();
-    void controls_atTheLimits();
+    void settings_areReadIntoTheirFields();
+    void settings_names_inAnyCase();
+    void settings_atTheLimits();
     void numbers_data();
     void numbers();
     void mistakes_data();
@@ -95,47 +97,50 @@ void TestCommandLine::size()
     QCOMPARE(parsedSize(text), size);
 }
 
-void TestCommandLine::controls_areReadIntoTheirFields()
+void TestCommandLine::settings_areReadIntoTheirFields()
 {
-    QVERIFY(parsedCommandLine({ "--screenshot", "o.png", "a.raw" }).controls.isEmpty());
+    QVERIFY(parsedCommandLine({ "--screenshot", "o.png", "a.raw" }).settings.isEmpty());
     const CommandLine line
         = parsedCommandLine({ "--screenshot", "o.png", "--view", "y", "--peaks", "12", "--palette",
             "red", "--roi", "1,2,30,40", "--roi", "0,0,1,1", "--wavelength", "100,2", "a.raw" });
     QCOMPARE(line.error, QString());
-    QCOMPARE(line.controls.view, QString("y"));
-    QCOMPARE(line.controls.peakCount, 12);
-    QCOMPARE(line.controls.palette, QString("red"));
-    QCOMPARE(line.controls.regions, (QVector<QRect> { QRect(1, 2, 30, 40), QRect(0, 0, 1, 1) }));
-    QVERIFY(line.controls.hasWavelength);
-    QCOMPARE(line.controls.wavelengthStart, 100);
-    QCOMPARE(line.controls.pixelWidth, 2);
-    QVERIFY(line.controls.wavelengthUnit.isEmpty());
-    QVERIFY(!line.controls.isEmpty());
+    const DisplaySettings& settings = line.settings;
+    QVERIFY(settings.view && *settings.view == Widget::View::ColumnChart);
+    QVERIFY(settings.peakLabels && *settings.peakLabels == (Widget::PeakLabels { true, 12 }));
+    QCOMPARE(settings.palette, QString("Red"));
+    QCOMPARE(settings.regions, (QVector<QRect> { QRect(1, 2, 30, 40), QRect(0, 0, 1, 1) }));
+    const Widget::Calibration wanted { 100, 2, Widget::Unit::Micrometers };
+    QVERIFY(settings.calibration && *settings.calibration == wanted);
+    QVERIFY(!settings.chartAxis);
+    QVERIFY(!settings.isEmpty());
 }
 
-void TestCommandLine::controls_names_inAnyCase()
+void TestCommandLine::settings_names_inAnyCase()
 {
     const CommandLine line = parsedCommandLine(
         { "--screenshot", "o.png", "--view", "Image", "--palette", "COLOR", "a.raw" });
     QCOMPARE(line.error, QString());
-    QCOMPARE(line.controls.view, QString("image"));
-    QCOMPARE(line.controls.palette, QString("color"));
+    QVERIFY(line.settings.view && *line.settings.view == Widget::View::Image);
+    QCOMPARE(line.settings.palette, QString("Color"));
 }
 
-void TestCommandLine::controls_atTheLimits()
+void TestCommandLine::settings_atTheLimits()
 {
     const auto parsed = [](const QString& option, const QString& value) {
         return parsedCommandLine(
             { "--screenshot", "o.png", "--view", "x", option, value, "a.raw" });
     };
-    QCOMPARE(parsed("--peaks", "1").controls.peakCount, 1);
+    const auto unit = [&parsed](const QString& value) {
+        return parsed("--wavelength", value).settings.calibration->unit;
+    };
+    QCOMPARE(parsed("--peaks", "1").settings.peakLabels->count, 1);
     QCOMPARE(parsed("--peaks", "200").error, QString());
     QVERIFY(!parsed("--peaks", "0").error.isEmpty());
     QVERIFY(!parsed("--peaks", "201").error.isEmpty());
     QCOMPARE(parsed("--wavelength", "0,1").error, QString());
     QCOMPARE(parsed("--wavelength", "2000,100").error, QString());
-    QCOMPARE(parsed("--wavelength", "5,1,nm").controls.wavelengthUnit, QString("nm"));
-    QCOMPARE(parsed("--wavelength", "5,1,um").controls.wavelengthUnit, QString("um"));
+    QCOMPARE(unit("5,1,nm"), Widget::Unit::Nanometers);
+    QCOMPARE(unit("5,1,um"), Widget::Unit::Micrometers);
     for (const char* value :
         { "2001,1", "5,0", "5,101", "5", "5,1,2", "5,1,mm", "5,nm", "-1,1", "5,1.5", ",nm", "" }) {
         QVERIFY2(parsed("--wavelength", value).error.startsWith("--wavelength needs"), value);

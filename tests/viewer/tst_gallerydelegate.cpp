@@ -20,7 +20,8 @@ private Q_SLOTS:
     void picture_standsInTheMiddle();
     void largePicture_isShrunk();
     void waiting_isAnEmptyFrame();
-    void unreadable_isCrossedOut();
+    void refused_isCrossedOut();
+    void tooLarge_isSaid();
     void current_standsOut();
     void name_staysOnOneLine();
 
@@ -32,6 +33,8 @@ private:
     std::unique_ptr<GalleryModel> m_model;
     std::unique_ptr<GalleryDelegate> m_delegate;
 };
+
+using LoadProblem = CVKIntensityWidget::LoadProblem;
 
 namespace {
 
@@ -90,7 +93,7 @@ void TestGalleryDelegate::size_isThatOfThePictureAndTheName()
 
 void TestGalleryDelegate::picture_standsInTheMiddle()
 {
-    QVERIFY(m_model->setPicture(0, redPicture(100, 60)));
+    QVERIFY(m_model->setPicture(0, redPicture(100, 60), LoadProblem::None));
     const QImage tile = painted();
     QCOMPARE(coloured(tile, Qt::red), 100 * 60);
     QCOMPARE(tile.pixelColor(43, 43), QColor(Qt::red)); // 13 + 30, 13 + 30
@@ -99,7 +102,7 @@ void TestGalleryDelegate::picture_standsInTheMiddle()
 
 void TestGalleryDelegate::largePicture_isShrunk()
 {
-    QVERIFY(m_model->setPicture(0, redPicture(640, 320)));
+    QVERIFY(m_model->setPicture(0, redPicture(640, 320), LoadProblem::None));
     const QImage tile = painted();
     QCOMPARE(coloured(tile, Qt::red), 160 * 80);
     QCOMPARE(tile.pixelColor(13, 33), QColor(Qt::red));
@@ -114,16 +117,31 @@ void TestGalleryDelegate::waiting_isAnEmptyFrame()
     QVERIFY(ground != QColor(Qt::black));
 }
 
-void TestGalleryDelegate::unreadable_isCrossedOut()
+void TestGalleryDelegate::refused_isCrossedOut()
 {
     const QImage waiting = painted();
-    QVERIFY(m_model->setPicture(0, QImage()));
-    const QImage unreadable = painted();
+    QVERIFY(m_model->setPicture(0, QImage(), LoadProblem::NotReadable));
+    const QImage refused = painted();
     const QRect middle(61, 41, 64, 64);
-    QVERIFY(unreadable.copy(middle) != waiting.copy(middle));
-    QImage elsewhere = unreadable;
+    QVERIFY(refused.copy(middle) != waiting.copy(middle));
+    QImage elsewhere = refused;
     QPainter(&elsewhere).drawImage(middle, waiting, middle);
     QCOMPARE(elsewhere, waiting); // nothing outside is touched
+}
+
+void TestGalleryDelegate::tooLarge_isSaid()
+{
+    const QImage waiting = painted();
+    QVERIFY(m_model->setPicture(0, QImage(), LoadProblem::OverPixelLimit));
+    const QImage said = painted();
+    const QRect room(13, 13, 160, 120);
+    QVERIFY(said.copy(room) != waiting.copy(room));
+    QVERIFY(said.pixelColor(61 + 32, 20) == waiting.pixelColor(61 + 32, 20)); // a line of text
+    QImage elsewhere = said;
+    QPainter(&elsewhere).drawImage(room, waiting, room);
+    QCOMPARE(elsewhere, waiting);
+    QVERIFY(m_model->setPicture(0, QImage(), LoadProblem::NotReadable));
+    QVERIFY(painted() != said);
 }
 
 void TestGalleryDelegate::current_standsOut()

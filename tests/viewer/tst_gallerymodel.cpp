@@ -4,6 +4,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+using LoadProblem = CVKIntensityWidget::LoadProblem;
+
 namespace {
 
 QImage grayPicture(int width, int height)
@@ -35,7 +37,8 @@ private Q_SLOTS:
     void files_areItsRows();
     void outside_thereIsNothing();
     void picture_isAnnounced();
-    void noPicture_isUnreadable();
+    void noPicture_isRefusedForAReason();
+    void noPicture_ofALargeImageIsNotRefused();
     void waiting_areTheRowsWithoutAPicture();
     void sameFiles_keepTheirPictures();
     void changedFile_waitsAgain();
@@ -99,8 +102,8 @@ void TestGalleryModel::outside_thereIsNothing()
     QVERIFY(model.pathAt(1).isEmpty());
     QCOMPARE(model.rowOf(path("gone.png")), -1);
     QVERIFY(!model.data(QModelIndex(), Qt::DisplayRole).isValid());
-    QVERIFY(!model.setPicture(-1, grayPicture(4, 4)));
-    QVERIFY(!model.setPicture(1, grayPicture(4, 4)));
+    QVERIFY(!model.setPicture(-1, grayPicture(4, 4), LoadProblem::None));
+    QVERIFY(!model.setPicture(1, grayPicture(4, 4), LoadProblem::None));
 }
 
 void TestGalleryModel::picture_isAnnounced()
@@ -108,7 +111,7 @@ void TestGalleryModel::picture_isAnnounced()
     GalleryModel model;
     model.setFiles(files({ "a.png", "b & <c>.raw" }));
     QSignalSpy changed(&model, SIGNAL(dataChanged(QModelIndex, QModelIndex, QVector<int>)));
-    QVERIFY(model.setPicture(1, grayPicture(4, 4)));
+    QVERIFY(model.setPicture(1, grayPicture(4, 4), LoadProblem::None));
     QCOMPARE(changed.size(), 1);
     QCOMPARE(changed.first().at(0).toModelIndex().row(), 1);
     QCOMPARE(changed.first().at(1).toModelIndex().row(), 1);
@@ -117,12 +120,28 @@ void TestGalleryModel::picture_isAnnounced()
     QCOMPARE(state(model, 0), GalleryModel::State::Waiting);
 }
 
-void TestGalleryModel::noPicture_isUnreadable()
+void TestGalleryModel::noPicture_isRefusedForAReason()
 {
     GalleryModel model;
     model.setFiles(files({ "a.png" }));
-    QVERIFY(model.setPicture(0, QImage()));
-    QCOMPARE(state(model, 0), GalleryModel::State::Unreadable);
+    QVERIFY(model.setPicture(0, QImage(), LoadProblem::NotReadable));
+    QCOMPARE(state(model, 0), GalleryModel::State::Refused);
+    QCOMPARE(model.data(model.index(0), Qt::ToolTipRole).toString(),
+        QString(
+            "a.png<br>The file cannot be read as a PNG image: it is damaged, or of another kind "
+            "than its suffix says."));
+}
+
+/// The limit is that of the small pictures; the image itself can be opened.
+void TestGalleryModel::noPicture_ofALargeImageIsNotRefused()
+{
+    GalleryModel model;
+    model.setFiles(files({ "a.png" }));
+    QVERIFY(model.setPicture(0, QImage(), LoadProblem::OverPixelLimit));
+    QCOMPARE(state(model, 0), GalleryModel::State::TooLarge);
+    QCOMPARE(model.data(model.index(0), Qt::ToolTipRole).toString(),
+        QString("a.png<br>Too large for a small picture; it can be opened."));
+    QVERIFY(model.waiting().isEmpty());
 }
 
 void TestGalleryModel::waiting_areTheRowsWithoutAPicture()
@@ -132,8 +151,8 @@ void TestGalleryModel::waiting_areTheRowsWithoutAPicture()
     write("d.png", "4");
     write("e.png", "5");
     model.setFiles(files({ "a.png", "b & <c>.raw", "d.png", "e.png" }));
-    QVERIFY(model.setPicture(0, grayPicture(4, 4)));
-    QVERIFY(model.setPicture(2, QImage())); // tried and unreadable
+    QVERIFY(model.setPicture(0, grayPicture(4, 4), LoadProblem::None));
+    QVERIFY(model.setPicture(2, QImage(), LoadProblem::NotReadable)); // tried and refused
     const QVector<ThumbnailRequest> waiting = model.waiting();
     QCOMPARE(waiting.size(), 2);
     QCOMPARE(waiting.at(0).row, 1);
@@ -146,7 +165,7 @@ void TestGalleryModel::sameFiles_keepTheirPictures()
 {
     GalleryModel model;
     model.setFiles(files({ "a.png", "b & <c>.raw" }));
-    QVERIFY(model.setPicture(1, grayPicture(5, 5)));
+    QVERIFY(model.setPicture(1, grayPicture(5, 5), LoadProblem::None));
     write("0.png", "0");
     model.setFiles(files({ "0.png", "b & <c>.raw" }));
     QCOMPARE(model.rowOf(path("a.png")), -1);
@@ -159,8 +178,8 @@ void TestGalleryModel::changedFile_waitsAgain()
 {
     GalleryModel model;
     model.setFiles(files({ "a.png", "b & <c>.raw" }));
-    QVERIFY(model.setPicture(0, grayPicture(5, 5)));
-    QVERIFY(model.setPicture(1, grayPicture(5, 5)));
+    QVERIFY(model.setPicture(0, grayPicture(5, 5), LoadProblem::None));
+    QVERIFY(model.setPicture(1, grayPicture(5, 5), LoadProblem::None));
     write("a.png", "longer");
     QFile other(path("b & <c>.raw"));
     QVERIFY(other.open(QIODevice::ReadWrite));
@@ -177,15 +196,16 @@ void TestGalleryModel::bytes_areLimited()
 {
     GalleryModel model(100); // bytes; a grey picture of 8 x 6 takes 48
     model.setFiles(files({ "a.png", "b & <c>.raw" }));
-    QVERIFY(model.setPicture(0, grayPicture(8, 6)));
-    QVERIFY(!model.setPicture(1, grayPicture(8, 7)));
+    QVERIFY(model.setPicture(0, grayPicture(8, 6), LoadProblem::None));
+    QVERIFY(!model.setPicture(1, grayPicture(8, 7), LoadProblem::None));
     QCOMPARE(state(model, 1), GalleryModel::State::Waiting);
-    QVERIFY(model.setPicture(1, grayPicture(8, 6)));
-    QVERIFY(model.setPicture(0, grayPicture(4, 6))); // in place of the one before
+    QVERIFY(model.setPicture(1, grayPicture(8, 6), LoadProblem::None));
+    QVERIFY(
+        model.setPicture(0, grayPicture(4, 6), LoadProblem::None)); // in place of the one before
     model.setFiles(files({ "b & <c>.raw" }));
-    QVERIFY(!model.setPicture(0, grayPicture(8, 13)));
+    QVERIFY(!model.setPicture(0, grayPicture(8, 13), LoadProblem::None));
     model.setFiles(files({ "a.png" }));
-    QVERIFY(model.setPicture(0, grayPicture(8, 12))); // the others count no more
+    QVERIFY(model.setPicture(0, grayPicture(8, 12), LoadProblem::None)); // the others count no more
 }
 
 QTEST_GUILESS_MAIN(TestGalleryModel)

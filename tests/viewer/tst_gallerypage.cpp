@@ -26,7 +26,7 @@ private Q_SLOTS:
     void folder_isNamedAndCounted();
     void pictures_come();
     void progress_isShownWhileItWorks();
-    void unreadableFiles_areAmongThem();
+    void refusedFiles_areAmongThem();
     void doubleClick_opens();
     void doubleClick_besideATileOpensNothing();
     void doubleClick_withAnotherButtonOpensNothing();
@@ -184,11 +184,11 @@ void TestGalleryPage::progress_isShownWhileItWorks()
     QCOMPARE(readyRows().size(), 300);
 }
 
-void TestGalleryPage::unreadableFiles_areAmongThem()
+void TestGalleryPage::refusedFiles_areAmongThem()
 {
     m_page->showFolder(m_folder.path());
     QTRY_VERIFY(!m_page->isLoading());
-    QCOMPARE(state(0), GalleryModel::State::Unreadable);
+    QCOMPARE(state(0), GalleryModel::State::Refused);
     QCOMPARE(readyRows(), (QVector<int> { 1, 2 }));
     QVERIFY(!child<QProgressBar>("galleryProgress")->isVisible());
 }

@@ -5,9 +5,13 @@
 #include "rawframe.h"
 
 #include <QComboBox>
+#include <QGraphicsItem>
 #include <QGraphicsView>
+#include <QKeyEvent>
+#include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -25,13 +29,17 @@ private Q_SLOTS:
     void widget_fillsThePage();
     void load_showsTheImage();
     void load_ofWhatIsNoImage();
-    void load_resetsThePalette();
-    void load_ofAFileWithoutPixelsReplacesTheWidget();
+    void load_isFaithful();
+    void load_ofAFileWithoutPixels();
+    void load_ofWhatIsNoImageClosesTheOneBefore();
     void load_replacesAClosedWidget();
     void aClosedWidget_isMissedByNothing();
     void returnButton_asksToLeave();
     void viewChanges_areTold();
-    void apply_setsTheControls();
+    void clickOnARegion_selectsItInThePanel();
+    void noneInThePanel_staysChosen();
+    void newRegion_showsItsStatistics();
+    void pageKeys_stayInAField();
 
 private:
     CVKIntensityWidget* widget() const { return m_page->findChild<CVKIntensityWidget*>(); }
@@ -40,6 +48,7 @@ private:
     {
         return m_page->findChild<Control*>(name);
     }
+    QPoint place(const QPoint& pixel) const;
     QString path(const char* name) const { return m_folder.filePath(name); }
     void writeFrame(const char* name, int width, int height) const;
 
@@ -93,12 +102,12 @@ void TestImagePage::widget_fillsThePage()
 
 void TestImagePage::load_showsTheImage()
 {
-    const QImage before = m_page->controls()->canvas()->grab().toImage();
+    const QImage before = m_page->canvas()->grab().toImage();
     QVERIFY(m_page->load(path("small.raw")));
-    const QImage small = m_page->controls()->canvas()->grab().toImage();
+    const QImage small = m_page->canvas()->grab().toImage();
     QVERIFY(small != before);
     QVERIFY(m_page->load(path("wide.raw")));
-    QVERIFY(m_page->controls()->canvas()->grab().toImage() != small);
+    QVERIFY(m_page->canvas()->grab().toImage() != small);
 }
 
 void TestImagePage::load_ofWhatIsNoImage()
@@ -109,25 +118,31 @@ void TestImagePage::load_ofWhatIsNoImage()
     QVERIFY(m_page->load(path("small.raw")));
 }
 
-void TestImagePage::load_resetsThePalette()
+/// Rows of 65 samples, which as stored would be drawn slanted.
+void TestImagePage::load_isFaithful()
 {
-    QVERIFY(m_page->load(path("small.raw")));
-    QTest::mouseClick(control<QPushButton>("pushButtonRed"), Qt::LeftButton);
-    QCOMPARE(m_page->controls()->settings().palette, QString("red"));
-    QVERIFY(m_page->load(path("small.raw")));
-    QVERIFY(m_page->controls()->settings().palette.isEmpty());
+    QCOMPARE(widget()->reading(), CVKIntensityWidget::Reading::Faithful);
+    writeFrame("odd.raw", 65, 20);
+    QVERIFY(m_page->load(path("odd.raw")));
+    QCOMPARE(widget()->columnProfile(3).levels, QVector<uchar>(20, 255 * 3 / 64));
 }
 
-void TestImagePage::load_ofAFileWithoutPixelsReplacesTheWidget()
+void TestImagePage::load_ofAFileWithoutPixels()
 {
     QVERIFY(m_page->load(path("small.raw")));
-    const QPointer<CVKIntensityWidget> before = widget();
     QVERIFY(!m_page->load(path("empty.raw")));
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(before.isNull());
-    QCOMPARE(m_page->findChildren<CVKIntensityWidget*>().size(), 1);
-    QCOMPARE(widget()->geometry(), m_page->rect());
+    QCOMPARE(widget()->loadProblem(), CVKIntensityWidget::LoadProblem::NoPixels);
     QVERIFY(m_page->load(path("small.raw")));
+}
+
+void TestImagePage::load_ofWhatIsNoImageClosesTheOneBefore()
+{
+    QVERIFY(m_page->load(path("small.raw")));
+    QVERIFY(widget()->addRegion(QRect(1, 1, 20, 20)));
+    QVERIFY(!m_page->load(path("missing.raw")));
+    QVERIFY(!widget()->imageInfo().isValid());
+    QVERIFY(widget()->regions().isEmpty());
+    QCOMPARE(widget()->loadProblem(), CVKIntensityWidget::LoadProblem::Missing);
 }
 
 void TestImagePage::load_replacesAClosedWidget()
@@ -147,16 +162,10 @@ void TestImagePage::aClosedWidget_isMissedByNothing()
     QVERIFY(widget()->close());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     m_page->closeImage();
-    ControlSettings settings;
-    settings.view = "x";
-    m_page->apply(settings, QSize(64, 48));
-    m_page->controls()->zoomIn();
-    m_page->controls()->showView(ImageView::Row);
-    m_page->controls()->choosePalette("Red");
-    QCOMPARE(m_page->controls()->shownView(), ImageView::Image);
-    QCOMPARE(m_page->controls()->regionCount(), 0);
-    QVERIFY(!m_page->controls()->canvas());
-    QVERIFY(m_page->controls()->settings().isEmpty());
+    QVERIFY(!widget());
+    QVERIFY(m_page->canvas()); // that of a fresh one
+    QVERIFY(!m_page->intensityWidget()->imageInfo().isValid());
+    QCOMPARE(m_page->intensityWidget(), widget());
 }
 
 void TestImagePage::returnButton_asksToLeave()
@@ -174,28 +183,94 @@ void TestImagePage::returnButton_asksToLeave()
 void TestImagePage::viewChanges_areTold()
 {
     QVERIFY(m_page->load(path("small.raw")));
-    QSignalSpy changes(m_page.get(), &ImagePage::viewChanged);
+    QSignalSpy changes(m_page.get(), &ImagePage::displayChanged);
     auto* chart = control<QRadioButton>("radioButton2D");
     QTest::mouseClick(chart, Qt::LeftButton, Qt::NoModifier, QPoint(8, chart->height() / 2));
-    QVERIFY(!changes.isEmpty());
-    QCOMPARE(m_page->controls()->shownView(), ImageView::Row);
+    QTRY_VERIFY(!changes.isEmpty());
+    QCOMPARE(widget()->view(), CVKIntensityWidget::View::RowChart);
     changes.clear();
     QTest::keyClick(control<QComboBox>("comboBoxDisplay"), Qt::Key_Down);
-    QCOMPARE(changes.size(), 1);
-    QCOMPARE(m_page->controls()->shownView(), ImageView::Column);
+    QTRY_COMPARE(changes.size(), 1);
+    QCOMPARE(widget()->view(), CVKIntensityWidget::View::ColumnChart);
 }
 
-void TestImagePage::apply_setsTheControls()
+/// Where a pixel of "wide.raw" stands on the canvas.
+QPoint TestImagePage::place(const QPoint& pixel) const
 {
+    const auto* view = m_page->findChild<QGraphicsView*>();
+    for (const QGraphicsItem* item : view->items()) {
+        const auto* object = dynamic_cast<const QObject*>(item);
+        if (object && object->inherits("ImageLayoutItem")) {
+            const QRectF content = item->boundingRect().adjusted(1.0, 1.0, -1.0, -1.0);
+            const QPointF inside((pixel.x() + 0.5) / 100.0 * content.width(),
+                (pixel.y() + 0.5) / 20.0 * content.height());
+            return view->mapFromScene(item->mapToScene(content.topLeft() + inside));
+        }
+    }
+    return QPoint();
+}
+
+void TestImagePage::clickOnARegion_selectsItInThePanel()
+{
+    QVERIFY(m_page->load(path("wide.raw")));
+    QVERIFY(widget()->setRegions({ QRect(5, 3, 30, 12), QRect(60, 3, 30, 12) }));
+    QCOMPARE(widget()->selectedRegion(), 1);
+    QSignalSpy changes(m_page.get(), &ImagePage::displayChanged);
+    QTest::mouseClick(m_page->findChild<QGraphicsView*>()->viewport(), Qt::LeftButton,
+        Qt::NoModifier, place(QPoint(20, 9)));
+    QCOMPARE(widget()->markedRegion(), 0);
+    QTRY_COMPARE(widget()->selectedRegion(), 0);
+    QCOMPARE(control<QComboBox>("comboBoxRoi")->currentText(), QString("ROI 1"));
+    QVERIFY(!changes.isEmpty());
+    QCOMPARE(widget()->regions(),
+        (QVector<QRect> { QRect(5, 3, 30, 12), QRect(60, 3, 30, 12) })); // nothing has moved
+}
+
+/// The mark on the canvas stays, which must not choose the region again.
+void TestImagePage::noneInThePanel_staysChosen()
+{
+    QVERIFY(m_page->load(path("wide.raw")));
+    QVERIFY(widget()->addRegion(QRect(5, 3, 30, 12)));
+    QCOMPARE(widget()->selectedRegion(), 0);
+    QTest::keyClick(control<QComboBox>("comboBoxRoi"), Qt::Key_Home);
+    QTest::qWait(50);
+    QCOMPARE(widget()->selectedRegion(), -1);
+    QCOMPARE(control<QComboBox>("comboBoxRoi")->currentIndex(), 0);
+}
+
+void TestImagePage::newRegion_showsItsStatistics()
+{
+    QVERIFY(m_page->load(path("wide.raw")));
+    auto* panel = control<QScrollArea>("Scroll_ModuleWidget");
+    auto* last = control<QLabel>("labelValueNoise");
+    panel->ensureWidgetVisible(control<QPushButton>("pushButtonAdd"), 0, 0);
+    const auto isInSight = [&] {
+        const QRect place(last->mapTo(panel->viewport(), QPoint()), last->size());
+        return panel->viewport()->rect().contains(place);
+    };
+    QVERIFY(!isInSight());
+    QTest::mouseClick(control<QPushButton>("pushButtonAdd"), Qt::LeftButton);
+    QTRY_VERIFY(isInSight());
+}
+
+void TestImagePage::pageKeys_stayInAField()
+{
+    const auto isTaken = [this](const char* name, Qt::Key key) {
+        auto* focused = control<QWidget>(name);
+        focused->setFocus();
+        QKeyEvent event(QEvent::ShortcutOverride, key, Qt::NoModifier);
+        event.ignore();
+        QApplication::sendEvent(focused, &event);
+        return event.isAccepted();
+    };
     QVERIFY(m_page->load(path("small.raw")));
-    ControlSettings settings;
-    settings.view = "y";
-    settings.palette = "blue";
-    settings.regions << QRect(10, 10, 20, 20);
-    m_page->apply(settings, QSize(64, 48));
-    QCOMPARE(m_page->controls()->shownView(), ImageView::Column);
-    QCOMPARE(m_page->controls()->settings().palette, QString("blue"));
-    QCOMPARE(m_page->controls()->regionCount(), 1);
+    QVERIFY(widget()->setView(CVKIntensityWidget::View::RowChart)); // enables all of the fields
+    for (const char* name : { "lineEditPeaks", "comboBoxDisplay", "comboBoxType", "comboBoxRoi" }) {
+        QVERIFY2(isTaken(name, Qt::Key_PageUp) && isTaken(name, Qt::Key_PageDown), name);
+    }
+    QVERIFY(!isTaken("comboBoxRoi", Qt::Key_F5));
+    QVERIFY(!isTaken("pushButtonAdd", Qt::Key_PageDown));
+    QVERIFY(!isTaken("Return", Qt::Key_PageUp));
 }
 
 QTEST_MAIN(TestImagePage)

@@ -1,11 +1,15 @@
 #include "thumbnailloader.h"
 
+#include <QBuffer>
+#include <QPainter>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QThread>
 #include <QtTest>
 
-Q_DECLARE_METATYPE(QImage)
+using LoadProblem = CVKIntensityWidget::LoadProblem;
+
+Q_DECLARE_METATYPE(CVKIntensityWidget::LoadProblem)
 
 /// Batches of pictures made in other threads.
 class TestThumbnailLoader : public QObject
@@ -15,7 +19,9 @@ class TestThumbnailLoader : public QObject
 private Q_SLOTS:
     void initTestCase();
     void everyRow_isAnnouncedOnceHere();
-    void unreadable_isAnnouncedAsNull();
+    void missingFile_isAnnouncedWithItsProblem();
+    void brokenFiles_areAnnouncedAsNull_data();
+    void brokenFiles_areAnnouncedAsNull();
     void emptyBatch_announcesNothing();
     void cancel_silencesTheBatch();
     void cancel_insideTheAnnouncement();
@@ -34,9 +40,10 @@ private:
 
 void TestThumbnailLoader::initTestCase()
 {
-    QImage image(400, 300, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    QVERIFY(image.save(m_folder.filePath("red.png")));
+    QImage image(400, 300, QImage::Format_Grayscale8);
+    image.fill(50);
+    QPainter(&image).fillRect(200, 0, 200, 300, QColor(100, 100, 100));
+    QVERIFY(image.save(m_folder.filePath("halves.png")));
 }
 
 /// The same file again and again, with the rows 10, 11 and so on.
@@ -44,7 +51,7 @@ QVector<ThumbnailRequest> TestThumbnailLoader::requests(int count) const
 {
     QVector<ThumbnailRequest> all;
     for (int i = 0; i < count; ++i) {
-        all << ThumbnailRequest { 10 + i, m_folder.filePath("red.png") };
+        all << ThumbnailRequest { 10 + i, m_folder.filePath("halves.png") };
     }
     return all;
 }
@@ -54,14 +61,17 @@ void TestThumbnailLoader::everyRow_isAnnouncedOnceHere()
     ThumbnailLoader loader;
     QSignalSpy finished(&loader, SIGNAL(finished()));
     QMap<int, int> times;
-    connect(&loader, &ThumbnailLoader::loaded, this, [&](int row, const QImage& picture) {
-        QCOMPARE(QThread::currentThread(), thread());
-        QCOMPARE(picture.size(), QSize(40, 30));
-        QCOMPARE(picture.pixel(20, 15), qRgb(255, 0, 0));
-        QVERIFY(loader.isLoading());
-        QVERIFY(finished.isEmpty());
-        ++times[row];
-    });
+    connect(&loader, &ThumbnailLoader::loaded, this,
+        [&](int row, const QImage& picture, LoadProblem problem) {
+            QCOMPARE(QThread::currentThread(), thread());
+            QCOMPARE(picture.size(), QSize(40, 30));
+            QCOMPARE(picture.pixel(5, 15), qRgb(0, 0, 0)); // the values fill the range
+            QCOMPARE(picture.pixel(35, 15), qRgb(255, 255, 255));
+            QCOMPARE(problem, LoadProblem::None);
+            QVERIFY(loader.isLoading());
+            QVERIFY(finished.isEmpty());
+            ++times[row];
+        });
     QVERIFY(!loader.isLoading());
     loader.start(requests(20), m_bounds);
     QVERIFY(loader.isLoading());
@@ -74,16 +84,66 @@ void TestThumbnailLoader::everyRow_isAnnouncedOnceHere()
     }
 }
 
-void TestThumbnailLoader::unreadable_isAnnouncedAsNull()
+void TestThumbnailLoader::missingFile_isAnnouncedWithItsProblem()
 {
     ThumbnailLoader loader;
-    QSignalSpy loaded(&loader, SIGNAL(loaded(int, QImage)));
+    QSignalSpy loaded(&loader, &ThumbnailLoader::loaded);
     QSignalSpy finished(&loader, SIGNAL(finished()));
     loader.start({ { 3, m_folder.filePath("gone.png") } }, m_bounds);
     QTRY_COMPARE(finished.size(), 1);
     QCOMPARE(loaded.size(), 1);
     QCOMPARE(loaded.first().at(0).toInt(), 3);
     QVERIFY(loaded.first().at(1).value<QImage>().isNull());
+    QCOMPARE(loaded.first().at(2).value<LoadProblem>(), LoadProblem::Missing);
+}
+
+void TestThumbnailLoader::brokenFiles_areAnnouncedAsNull_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QImage image(64, 48, QImage::Format_Grayscale8);
+    image.fill(50);
+    QByteArray jpeg;
+    QBuffer buffer(&jpeg);
+    QVERIFY(buffer.open(QIODevice::WriteOnly) && image.save(&buffer, "JPEG"));
+    QTest::newRow("start marker alone") << QByteArray("\xff\xd8\xff");
+    for (const int length : { 20, 90, 150 }) {
+        QTest::addRow("cut off after %d bytes", length) << jpeg.left(length);
+    }
+    const int frame = jpeg.indexOf("\xff\xc0"); // marker, length, bits a sample
+    QVERIFY(frame > 150 && jpeg.at(frame + 4) == 8);
+    QByteArray twelve = jpeg;
+    twelve[frame + 4] = 12;
+    QTest::newRow("12 bits a sample") << twelve;
+    QByteArray lossless = jpeg;
+    lossless[frame + 1] = '\xc3';
+    QTest::newRow("lossless") << lossless;
+    QByteArray lowLoss = jpeg;
+    lowLoss[frame + 1] = '\xf7';
+    QTest::newRow("JPEG-LS") << lowLoss;
+}
+
+/// Under every suffix, since content decides which decoder gets them.
+void TestThumbnailLoader::brokenFiles_areAnnouncedAsNull()
+{
+    QFETCH(QByteArray, bytes);
+    QVector<ThumbnailRequest> broken;
+    for (const char* suffix : { "jpg", "jpeg", "png", "bmp", "tif", "tiff" }) {
+        const QString path = m_folder.filePath(QString("broken.") + suffix);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+        broken << ThumbnailRequest { int(broken.size()), path };
+    }
+    ThumbnailLoader loader;
+    QSignalSpy loaded(&loader, &ThumbnailLoader::loaded);
+    QSignalSpy finished(&loader, &ThumbnailLoader::finished);
+    loader.start(broken, m_bounds);
+    QTRY_COMPARE(finished.size(), 1);
+    QCOMPARE(loaded.size(), broken.size());
+    for (const QList<QVariant>& answer : loaded) {
+        QVERIFY(answer.at(1).value<QImage>().isNull());
+        const auto problem = answer.at(2).value<LoadProblem>();
+        QVERIFY(problem == LoadProblem::NotReadable || problem == LoadProblem::UnsupportedKind);
+    }
 }
 
 void TestThumbnailLoader::emptyBatch_announcesNothing()
@@ -99,7 +159,7 @@ void TestThumbnailLoader::emptyBatch_announcesNothing()
 void TestThumbnailLoader::cancel_silencesTheBatch()
 {
     ThumbnailLoader loader;
-    QSignalSpy loaded(&loader, SIGNAL(loaded(int, QImage)));
+    QSignalSpy loaded(&loader, &ThumbnailLoader::loaded);
     QSignalSpy finished(&loader, SIGNAL(finished()));
     loader.start(requests(50), m_bounds);
     QTest::qSleep(30); // some pictures are ready and wait to be announced
@@ -131,11 +191,11 @@ void TestThumbnailLoader::cancel_insideTheAnnouncement()
 void TestThumbnailLoader::newBatch_replacesTheOld()
 {
     ThumbnailLoader loader;
-    QSignalSpy loaded(&loader, SIGNAL(loaded(int, QImage)));
+    QSignalSpy loaded(&loader, &ThumbnailLoader::loaded);
     QSignalSpy finished(&loader, SIGNAL(finished()));
     loader.start(requests(50), m_bounds);
     QTest::qSleep(20);
-    loader.start({ { 7, m_folder.filePath("red.png") } }, QSize(20, 20));
+    loader.start({ { 7, m_folder.filePath("halves.png") } }, QSize(20, 20));
     QTRY_COMPARE(finished.size(), 1);
     QTest::qWait(50);
     QCOMPARE(loaded.size(), 1);
@@ -151,7 +211,7 @@ void TestThumbnailLoader::newBatch_startedByTheLastAnnouncement()
     connect(&loader, &ThumbnailLoader::loaded, this, [&](int row) {
         rows << row;
         if (row == 10) {
-            loader.start({ { 99, m_folder.filePath("red.png") } }, m_bounds);
+            loader.start({ { 99, m_folder.filePath("halves.png") } }, m_bounds);
         }
     });
     loader.start(requests(1), m_bounds);

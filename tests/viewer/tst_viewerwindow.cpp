@@ -2,10 +2,12 @@
 
 #include "appearance.h"
 #include "cvkintensitywidget.h"
+#include "gallerymodel.h"
 #include "gallerypage.h"
 #include "imagepage.h"
 #include "pages.h"
 #include "scenes.h"
+#include "tifffile.h"
 
 #include <QAction>
 #include <QApplication>
@@ -46,10 +48,44 @@ void dropOnto(QWidget* target, const QMimeData& data)
     enter.ignore();
     QApplication::sendEvent(target, &enter);
     QVERIFY(enter.isAccepted());
-    QDropEvent drop(position, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDropEvent drop(
+        position, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    drop.setDropAction(Qt::MoveAction); // as some file managers propose
     drop.ignore();
     QApplication::sendEvent(target, &drop);
     QVERIFY(drop.isAccepted());
+    QCOMPARE(drop.dropAction(), Qt::CopyAction);
+}
+
+/// Two gray samples beside each other, the first one at the top left.
+QByteArray grayTiff(
+    quint32 bits, quint32 sampleFormat, const QByteArray& samples, quint32 orientation = 1)
+{
+    const quint32 entryCount = 11;
+    const quint32 data = 8 + 2 + 12 * entryCount + 4; // behind start and directory
+    return tiffFile({ { 256, tiffShort, 1, 2 }, { 257, tiffShort, 1, 1 },
+               { 258, tiffShort, 1, bits }, { 259, tiffShort, 1, 1 }, { 262, tiffShort, 1, 1 },
+               { 273, tiffLong, 1, data }, { 274, tiffShort, 1, orientation },
+               { 277, tiffShort, 1, 1 }, { 278, tiffShort, 1, 1 },
+               { 279, tiffLong, 1, quint32(samples.size()) }, { 339, tiffShort, 1, sampleFormat } })
+        + samples;
+}
+
+/// 4 x 2 pixels of 24 bits, whose rows stand from the top: the height is negative.
+QByteArray topDownBmp()
+{
+    QByteArray bmp("BM");
+    for (const qint32 number : { 54 + 24, 0, 54, 40, 4, -2 }) {
+        bmp += tiffNumber(quint32(number), false);
+    }
+    bmp += tiffNumber(quint16(1), false) + tiffNumber(quint16(24), false);
+    for (const quint32 number : { 0, 24, 0, 0, 0, 0 }) {
+        bmp += tiffNumber(quint32(number), false);
+    }
+    for (int i = 0; i < 24; ++i) {
+        bmp += char(10 * i);
+    }
+    return bmp;
 }
 
 } // namespace
@@ -69,18 +105,19 @@ private Q_SLOTS:
     void open_aProblemNamesFileAndReason();
     void open_theOldPictureNeverStays();
     void open_aGoodFileAfterAProblem();
-    void open_anEmptyRawFileReplacesTheWidget();
+    void open_anEmptyRawFileSaysSo();
     void open_afterTheWidgetWasClosed();
     void open_hostileNames();
     void close_goesBackToTheGallery();
     void close_withoutAGalleryGoesBackToTheWelcomePage();
     void returnButton_showsTheGallery();
-    void returnButton_ofAReplacedWidget();
     void gallerySlot_withoutAFile();
     void gallery_isNamed();
     void gallery_opensADoubleClickedImage();
     void gallery_opensWithEnter();
     void gallery_ofAnUnreadableImageNamesTheProblem();
+    void gallery_crossesOutWhatIsRefused_data();
+    void gallery_crossesOutWhatIsRefused();
     void gallery_stopsWithTheWindow();
     void escape_staysInTheImage();
     void wheel_overABoxScrollsThePanel();
@@ -88,8 +125,7 @@ private Q_SLOTS:
     void menuGallery_asksForAFolderFirst();
     void dialog_opensTheChosenFile();
     void dialog_opensTheChosenFolder();
-    void drag_takesExactlyOneLocalFile_data();
-    void drag_takesExactlyOneLocalFile();
+    void drag_ofAFileIsTaken();
     void drop_opensTheFile();
     void drop_ofAFolderShowsTheGallery();
     void drop_onTheCanvasReachesTheWindow();
@@ -189,7 +225,8 @@ void TestViewerWindow::open_aProblemNamesFileAndReason()
     QVERIFY(problemPage);
     QCOMPARE(problemPage->fileName(), QString("fake.raw"));
     QCOMPARE(problemPage->reason(),
-        QString("This is no raw camera file: it does not carry the camera's signature."));
+        QString("The file cannot be read as a raw camera file: it is damaged, or of another kind "
+                "than its suffix says."));
     QCOMPARE(m_window->problem(), problemPage->reason());
     QCOMPARE(m_window->windowTitle(), QString("fake.raw - VKIntensity Viewer"));
     QVERIFY(status("statusImageSize").isEmpty());
@@ -222,20 +259,13 @@ void TestViewerWindow::open_aGoodFileAfterAProblem()
     QCOMPARE(pictureOf(page()), direct);
 }
 
-void TestViewerWindow::open_anEmptyRawFileReplacesTheWidget()
+void TestViewerWindow::open_anEmptyRawFileSaysSo()
 {
     QVERIFY(m_window->openFile(path("lamp.raw")));
-    const QPointer<CVKIntensityWidget> before = intensity();
     QVERIFY(!m_window->openFile(path("empty.raw")));
-    QCOMPARE(m_window->problem(), QString("This raw camera file holds no pixels."));
-    QVERIFY(!before->isVisible());
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(before.isNull());
-    QVERIFY(intensity());
-
+    QCOMPARE(m_window->problem(), QString("The image holds no pixels."));
     QVERIFY(m_window->openFile(path("lamp.raw")));
     QCOMPARE(page(), imagePage());
-    QCOMPARE(m_window->findChildren<CVKIntensityWidget*>().size(), 1);
 }
 
 void TestViewerWindow::open_afterTheWidgetWasClosed()
@@ -306,15 +336,6 @@ void TestViewerWindow::returnButton_showsTheGallery()
     QVERIFY(!returnButton()->isChecked());
 }
 
-void TestViewerWindow::returnButton_ofAReplacedWidget()
-{
-    QVERIFY(!m_window->openFile(path("empty.raw")));
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(m_window->openFile(path("lamp.raw")));
-    QTest::mouseClick(returnButton(), Qt::LeftButton);
-    QCOMPARE(page(), gallery());
-}
-
 void TestViewerWindow::gallerySlot_withoutAFile()
 {
     QVERIFY(QMetaObject::invokeMethod(imagePage(), "sltSwitchToGallery"));
@@ -365,6 +386,47 @@ void TestViewerWindow::gallery_ofAnUnreadableImageNamesTheProblem()
     QTest::keyClick(galleryView(), Qt::Key_Return);
     QVERIFY(qobject_cast<LoadProblemPage*>(page()));
     QCOMPARE(m_window->windowTitle(), QString("fake.png - VKIntensity Viewer"));
+}
+
+void TestViewerWindow::gallery_crossesOutWhatIsRefused_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<bool>("shown");
+    const auto samples = [](auto a, auto b) {
+        return QByteArray(reinterpret_cast<const char*>(&a), sizeof a)
+            + QByteArray(reinterpret_cast<const char*>(&b), sizeof b);
+    };
+    QTest::newRow("signed") << "a.tif" << grayTiff(16, 2, samples(qint16(1), qint16(7))) << true;
+    QTest::newRow("signed, one is negative")
+        << "a.tif" << grayTiff(16, 2, samples(qint16(-1), qint16(7))) << false;
+    QTest::newRow("floating-point") << "a.tif" << grayTiff(32, 3, samples(1.0f, 7.0f)) << true;
+    QTest::newRow("floating-point, one is a fraction")
+        << "a.tif" << grayTiff(32, 3, samples(0.5f, 7.0f)) << false;
+    QTest::newRow("turned by a quarter")
+        << "a.tif" << grayTiff(16, 1, samples(quint16(1), quint16(7)), 6) << true;
+    QTest::newRow("6 bits a sample") << "a.tif" << grayTiff(6, 1, QByteArray(2, 'x')) << false;
+    QTest::newRow("rows from the top") << "a.bmp" << topDownBmp() << true;
+    QTest::newRow("no JPEG") << "a.jpg" << QByteArray("\xff\xd8\xff") << false;
+    QTest::newRow("raw without pixels") << "a.raw" << encodedRawHeader(RawHeader()) << false;
+}
+
+/// What the gallery promises is what opening the file brings.
+void TestViewerWindow::gallery_crossesOutWhatIsRefused()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, bytes);
+    QFETCH(bool, shown);
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(name));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    file.close();
+    m_window->showGallery(folder.path());
+    QTRY_VERIFY(!m_window->isGalleryLoading());
+    const QModelIndex tile = galleryView()->model()->index(0, 0);
+    const auto state = GalleryModel::State(tile.data(GalleryModel::StateRole).toInt());
+    QCOMPARE(state, shown ? GalleryModel::State::Ready : GalleryModel::State::Refused);
+    QCOMPARE(m_window->openFile(file.fileName()), shown);
 }
 
 void TestViewerWindow::gallery_stopsWithTheWindow()
@@ -457,29 +519,21 @@ void TestViewerWindow::dialog_opensTheChosenFolder()
     QVERIFY(galleryView()->isVisible());
 }
 
-void TestViewerWindow::drag_takesExactlyOneLocalFile_data()
+void TestViewerWindow::drag_ofAFileIsTaken()
 {
-    QTest::addColumn<QList<QUrl>>("urls");
-    QTest::addColumn<QString>("file");
-    const QUrl lamp = QUrl::fromLocalFile("/data/a lamp.raw");
-    QTest::newRow("one file") << QList<QUrl> { lamp } << "/data/a lamp.raw";
-    QTest::newRow("two files") << QList<QUrl> { lamp, lamp } << "";
-    QTest::newRow("a web address") << QList<QUrl> { QUrl("https://example.org/a.png") } << "";
-    QTest::newRow("nothing") << QList<QUrl>() << "";
-}
-
-void TestViewerWindow::drag_takesExactlyOneLocalFile()
-{
-    QFETCH(QList<QUrl>, urls);
-    QFETCH(QString, file);
     QMimeData data;
-    data.setText("some text");
-    data.setUrls(urls);
-    QCOMPARE(ViewerWindow::draggedFile(&data), file);
-    QDragEnterEvent enter(QPoint(500, 300), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    enter.ignore();
-    QApplication::sendEvent(m_window.get(), &enter);
-    QCOMPARE(enter.isAccepted(), !file.isEmpty());
+    data.setUrls({ QUrl::fromLocalFile(path("lamp.raw")) });
+    const auto isTaken = [&](Qt::DropActions possible) {
+        QDragEnterEvent enter(QPoint(500, 300), possible, &data, Qt::LeftButton, Qt::NoModifier);
+        enter.setDropAction(Qt::MoveAction);
+        QApplication::sendEvent(m_window.get(), &enter);
+        return enter.isAccepted() && enter.dropAction() == Qt::CopyAction;
+    };
+    QVERIFY(isTaken(Qt::CopyAction));
+    QVERIFY(isTaken(Qt::CopyAction | Qt::MoveAction)); // as a copy: the source keeps its file
+    QVERIFY(!isTaken(Qt::MoveAction));
+    data.setUrls({ QUrl("https://example.org/a.png") });
+    QVERIFY(!isTaken(Qt::CopyAction));
 }
 
 void TestViewerWindow::drop_opensTheFile()
