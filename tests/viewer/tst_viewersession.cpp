@@ -37,13 +37,14 @@ private Q_SLOTS:
     void session_ofTheFirstStart();
     void session_isNotTouchedWithoutSettings();
     void watch_reloadsAChangedFile();
-    void watch_leavesRegionsAlone();
+    void watch_keepsRegions();
     void watch_waitsForTheMouseButton();
     void watch_mendsAProblem();
     void watch_leavesTheGalleryAlone();
     void load_showsProgressAndWaits();
     void load_ofASmallFileIsQuiet();
     void status_tellsSizeDepthAndTime();
+    void status_tellsWhatWasChangedInReading();
     void wheel_zoomsByWholeNotches();
     void tabKey_followsThePanel();
     void controls_haveAccessibleNames();
@@ -207,17 +208,14 @@ void TestViewerSession::watch_reloadsAChangedFile()
     QTRY_COMPARE(m_viewer->status("statusImageSize"), QString::fromUtf8("90 × 48 pixels   16 bit"));
 }
 
-void TestViewerSession::watch_leavesRegionsAlone()
+void TestViewerSession::watch_keepsRegions()
 {
     QVERIFY(m_viewer->window->openFile(m_viewer->path("frame 1.raw")));
-    QTest::mouseClick(m_viewer->control<QPushButton>("pushButtonAdd"), Qt::LeftButton);
+    QVERIFY(m_viewer->intensity()->addRegion(QRect(5, 6, 7, 8)));
     m_viewer->writeFrame("frame 1.raw", 100);
-    QTRY_VERIFY(!m_viewer->window->statusBar()->currentMessage().isEmpty());
-    QCOMPARE(m_viewer->window->statusBar()->currentMessage(),
-        QString("The file has changed. F5 loads it again, without the regions."));
-    QCOMPARE(m_viewer->status("statusImageSize"), QString::fromUtf8("64 × 48 pixels   16 bit"));
-    QTest::keyClick(m_viewer->window.get(), Qt::Key_F5);
-    QCOMPARE(m_viewer->status("statusImageSize"), QString::fromUtf8("100 × 48 pixels   16 bit"));
+    QTRY_COMPARE(
+        m_viewer->status("statusImageSize"), QString::fromUtf8("100 × 48 pixels   16 bit"));
+    QCOMPARE(m_viewer->intensity()->regions(), QVector<QRect> { QRect(5, 6, 7, 8) });
     QVERIFY(m_viewer->window->statusBar()->currentMessage().isEmpty());
 }
 
@@ -303,6 +301,16 @@ void TestViewerSession::status_tellsSizeDepthAndTime()
     m_viewer->window->showGallery(m_viewer->folder.path());
     QVERIFY(m_viewer->status("statusImageSize").isEmpty());
     QVERIFY(m_viewer->status("statusLoadTime").isEmpty());
+}
+
+void TestViewerSession::status_tellsWhatWasChangedInReading()
+{
+    QImage picture(64, 48, QImage::Format_ARGB32);
+    picture.fill(QColor(200, 100, 50, 128));
+    QVERIFY(picture.save(m_viewer->path("glass.png")));
+    QVERIFY(m_viewer->window->openFile(m_viewer->path("glass.png")));
+    QCOMPARE(m_viewer->status("statusImageSize"),
+        QString::fromUtf8("color as gray, alpha dropped   64 × 48 pixels   8 bit"));
 }
 
 void TestViewerSession::wheel_zoomsByWholeNotches()

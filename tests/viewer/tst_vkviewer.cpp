@@ -223,15 +223,14 @@ void TestVkviewer::screenshot_ofAGallery()
     QVERIFY2(m_errors.isEmpty(), m_errors.constData());
     const QImage window(picture);
     QCOMPARE(window.size(), QSize(900, 700));
-    // The pictures are there: the chart's first patch is the only red of the window.
-    int red = 0;
+    // The pictures are there: nothing else of the window is white over a larger area.
+    int white = 0;
     for (int y = 0; y < window.height(); ++y) {
         for (int x = 0; x < window.width(); ++x) {
-            const QColor color = window.pixelColor(x, y);
-            red += color.red() > 200 && color.green() < 60 && color.blue() < 60;
+            white += qGray(window.pixel(x, y)) > 250;
         }
     }
-    QVERIFY(red > 300);
+    QVERIFY(white > 1000);
 }
 
 void TestVkviewer::screenshot_ofAGalleryOfHostileFiles()
@@ -242,6 +241,9 @@ void TestVkviewer::screenshot_ofAGalleryOfHostileFiles()
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(content(sample("colour-chart.png")).left(5000));
     }
+    QFile marker(folder.filePath("marker.jpg"));
+    QVERIFY(marker.open(QIODevice::WriteOnly) && marker.write("\xff\xd8\xff") == 3);
+    marker.close();
     const QString picture = path("hostile.png");
     QCOMPARE(run({ "--screenshot", picture, folder.path() }), 0);
     QVERIFY2(m_errors.isEmpty(), m_errors.constData()); // nothing of the codecs' own
@@ -260,19 +262,7 @@ void TestVkviewer::screenshot_withRegions()
     QVERIFY2(m_errors.isEmpty(), m_errors.constData());
     // Two outlines of about 2 x (300 + 200) x 0.65 and 2 x (400 + 300) x 0.65 pixels.
     QVERIFY(canvasCount(QImage(picture), isRegionRed) > 1200);
-    const QStringList lines = QString::fromUtf8(m_output).split('\n');
-    QCOMPARE(lines.size(), 3); // the last one is empty
-    const QRegularExpression pattern("^ROI ([0-9]+): x ([0-9]+) to ([0-9]+), y ([0-9]+) to "
-                                     "([0-9]+) \\(from the top ([0-9]+) to ([0-9]+)\\)$");
-    const int wanted[2][7]
-        = { { 1, 200, 499, 660, 859, 100, 299 }, { 2, 800, 1199, 160, 459, 500, 799 } };
-    for (int i = 0; i < 2; ++i) {
-        const QRegularExpressionMatch match = pattern.match(lines.at(i));
-        QVERIFY2(match.hasMatch(), qPrintable(lines.at(i)));
-        for (int k = 0; k < 7; ++k) { // to the pixels that one unit of the canvas shows
-            QVERIFY(qAbs(match.captured(k + 1).toInt() - wanted[i][k]) <= (k == 0 ? 0 : 1));
-        }
-    }
+    QVERIFY(m_output.isEmpty()); // they are exactly what was asked for
 }
 
 void TestVkviewer::screenshot_ofTheCharts()
@@ -317,8 +307,7 @@ void TestVkviewer::screenshot_ofControlsInASmallWindow()
         run({ "--screenshot", picture, "--size", "640x480", "--roi", "10,10,90,90", "--view", "y",
             "--peaks", "3", "--palette", "blue", "--wavelength", "0,5", sample("star-field.raw") }),
         0);
-    QVERIFY(m_output.startsWith("ROI 1: x "));
-    QCOMPARE(m_output.count('\n'), 1);
+    QVERIFY(m_output.isEmpty());
     QCOMPARE(QImage(picture).size(), QSize(640, 480));
 }
 
@@ -446,6 +435,7 @@ void TestVkviewer::hostileFiles_data()
     QTest::newRow("header of a PNG") << written("header.png", chart.left(20));
     QTest::newRow("cut BMP") << written("cut.bmp", target.left(3000));
     QTest::newRow("text as JPEG") << written("text.jpg", "hello");
+    QTest::newRow("start marker of a JPEG") << written("marker.jpg", "\xff\xd8\xff");
     QTest::newRow("zeros as TIFF") << written("zeros.tif", QByteArray(5000, '\0'));
     QTest::newRow("zeros as raw") << written("zeros.raw", QByteArray(5000, '\0'));
     RawHeader header;
