@@ -60,6 +60,10 @@
         <translation>--peaks gehört zu --view x oder --view y</translation>
     </message>
     <message>
+        <source>there is no display to open a window on (--screenshot needs none)</source>
+        <translation>es gibt keine Anzeige für ein Fenster (--screenshot braucht keine)</translation>
+    </message>
+    <message>
         <source>Usage: vkviewer [IMAGE | FOLDER]
        vkviewer --screenshot FILE.png [OPTIONS] IMAGE | FOLDER
 
@@ -72,8 +76,8 @@ its images are shown in a gallery.
   --view image|x|y        show the image, or its row or column as a chart
   --peaks N               label the N strongest peaks of the chart, 1 to 200
   --palette NAME          gray, red, green, blue or color
-  --roi X,Y,WIDTH,HEIGHT  mark a region, in pixels from the top left; can be given more
-                          than once, and prints what became of it on the screen
+  --roi X,Y,WIDTH,HEIGHT  mark exactly these pixels, counted from the top left; can be
+                          given more than once
   --wavelength START,WIDTH[,UNIT]
                           label the axis in wavelengths: that of the first pixel, 0 to
                           2000, what each pixel adds, 1 to 100, and the unit, um or nm
@@ -92,8 +96,8 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
   --view image|x|y        das Bild, oder seine Zeile oder Spalte als Diagramm zeigen
   --peaks N               die N stärksten Peaks des Diagramms beschriften, 1 bis 200
   --palette NAME          gray, red, green, blue oder color
-  --roi X,Y,BREITE,HÖHE   eine ROI markieren, in Pixeln von links oben; mehrfach
-                          möglich; gibt aus, was auf dem Schirm daraus wurde
+  --roi X,Y,BREITE,HÖHE   genau diese Pixel markieren, von links oben gezählt;
+                          mehrfach möglich
   --wavelength START,BREITE[,EINHEIT]
                           die Achse in Wellenlängen beschriften: die des ersten Pixels,
                           0 bis 2000, was jedes Pixel hinzufügt, 1 bis 100, und die
@@ -102,40 +106,32 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
   --version               die Version zeigen
 </translation>
     </message>
-    <message>
-        <source>there is no display to open a window on (--screenshot needs none)</source>
-        <translation>es gibt keine Anzeige für ein Fenster (--screenshot braucht keine)</translation>
-    </message>
 </context>
 <context>
-    <name>ControlDriver</name>
+    <name>DisplaySettings</name>
     <message>
-        <source>the control %1 has no entry %2</source>
-        <translation>das Bedienelement %1 hat keinen Eintrag %2</translation>
+        <source>the region %1,%2,%3,%4 does not lie inside the image of %5x%6 pixels</source>
+        <translation>die ROI %1,%2,%3,%4 liegt nicht im Bild von %5x%6 Pixeln</translation>
     </message>
     <message>
-        <source>the control %1 does not take %2</source>
-        <translation>das Bedienelement %1 nimmt %2 nicht an</translation>
+        <source>the axis does not take these wavelengths</source>
+        <translation>die Achse nimmt diese Wellenlängen nicht an</translation>
     </message>
     <message>
-        <source>the canvas takes no region</source>
-        <translation>die Zeichenfläche nimmt keine ROI an</translation>
+        <source>the chart does not take %1 peaks</source>
+        <translation>das Diagramm nimmt %1 Peaks nicht an</translation>
     </message>
     <message>
-        <source>the panel does not tell where the region is</source>
-        <translation>die Leiste sagt nicht, wo die ROI liegt</translation>
+        <source>there is no such chart</source>
+        <translation>dieses Diagramm gibt es nicht</translation>
     </message>
     <message>
-        <source>%1: x %2, y %3 (from the top %4 to %5)</source>
-        <translation>%1: x %2, y %3 (von oben %4 bis %5)</translation>
+        <source>there is no such view</source>
+        <translation>diese Ansicht gibt es nicht</translation>
     </message>
     <message>
-        <source>the control %1 is disabled</source>
-        <translation>das Bedienelement %1 ist gesperrt</translation>
-    </message>
-    <message>
-        <source>there is no control %1</source>
-        <translation>es gibt kein Bedienelement %1</translation>
+        <source>the palette %1 cannot be read</source>
+        <translation>die Palette %1 ist nicht lesbar</translation>
     </message>
 </context>
 <context>
@@ -143,6 +139,20 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
     <message>
         <source>Choose Folder...</source>
         <translation>Ordner wählen...</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryDelegate</name>
+    <message>
+        <source>Large image</source>
+        <translation>Großes Bild</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryModel</name>
+    <message>
+        <source>Too large for a small picture; it can be opened.</source>
+        <translation>Zu groß für ein kleines Bild; es lässt sich öffnen.</translation>
     </message>
 </context>
 <context>
@@ -276,105 +286,33 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
     </message>
 </context>
 <context>
-    <name>ImageControls</name>
+    <name>ImageFiles</name>
     <message>
-        <source>Return to the gallery</source>
-        <translation>Zurück zur Galerie</translation>
+        <source>Images (%1)</source>
+        <translation>Bilder (%1)</translation>
     </message>
     <message>
-        <source>Fold the display preferences</source>
-        <translation>Anzeigeoptionen einklappen</translation>
-    </message>
-    <message>
-        <source>Axis of the chart</source>
-        <translation>Achse des Diagramms</translation>
-    </message>
-    <message>
-        <source>Number of peak labels</source>
-        <translation>Anzahl beschrifteter Peaks</translation>
-    </message>
-    <message>
-        <source>Gray palette</source>
-        <translation>Graue Palette</translation>
-    </message>
-    <message>
-        <source>Red palette</source>
-        <translation>Rote Palette</translation>
-    </message>
-    <message>
-        <source>Green palette</source>
-        <translation>Grüne Palette</translation>
-    </message>
-    <message>
-        <source>Blue palette</source>
-        <translation>Blaue Palette</translation>
-    </message>
-    <message>
-        <source>Color palette</source>
-        <translation>Farbpalette</translation>
-    </message>
-    <message>
-        <source>Label of the horizontal axis</source>
-        <translation>Beschriftung der waagerechten Achse</translation>
-    </message>
-    <message>
-        <source>Unit of the wavelength</source>
-        <translation>Einheit der Wellenlänge</translation>
-    </message>
-    <message>
-        <source>Wavelength of the first pixel</source>
-        <translation>Wellenlänge des ersten Pixels</translation>
-    </message>
-    <message>
-        <source>Wavelength of one pixel</source>
-        <translation>Wellenlänge je Pixel</translation>
-    </message>
-    <message>
-        <source>Fold the data histogram</source>
-        <translation>Histogramm einklappen</translation>
-    </message>
-    <message>
-        <source>Region of interest</source>
-        <translation>ROI</translation>
-    </message>
-    <message>
-        <source>Add a region of interest</source>
-        <translation>ROI hinzufügen</translation>
-    </message>
-    <message>
-        <source>Delete the region of interest</source>
-        <translation>ROI löschen</translation>
-    </message>
-    <message>
-        <source>Zoom in</source>
-        <translation>Vergrößern</translation>
-    </message>
-    <message>
-        <source>Zoom out</source>
-        <translation>Verkleinern</translation>
-    </message>
-    <message>
-        <source>Image</source>
-        <translation>Bild</translation>
-    </message>
-    <message>
-        <source>Panel</source>
-        <translation>Leiste</translation>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
     </message>
 </context>
 <context>
-    <name>ImageFiles</name>
+    <name>ImageTexts</name>
     <message>
-        <source>There is no file of this name.</source>
-        <translation>Es gibt keine Datei dieses Namens.</translation>
+        <source>raw camera file</source>
+        <translation>Rohdatei der Kamera</translation>
     </message>
     <message>
-        <source>This is a folder, not an image file.</source>
-        <translation>Das ist ein Ordner, keine Bilddatei.</translation>
+        <source>JPEG image</source>
+        <translation>JPEG-Bild</translation>
     </message>
     <message>
-        <source>This is not a regular file.</source>
-        <translation>Das ist keine gewöhnliche Datei.</translation>
+        <source>TIFF image</source>
+        <translation>TIFF-Bild</translation>
+    </message>
+    <message>
+        <source>%1 image</source>
+        <translation>%1-Bild</translation>
     </message>
     <message>
         <source>The file name has no suffix. Images end in %1.</source>
@@ -393,36 +331,28 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
         <translation>Die Datei ist leer.</translation>
     </message>
     <message>
-        <source>The file cannot be opened.</source>
-        <translation>Die Datei kann nicht geöffnet werden.</translation>
+        <source>The file cannot be read as a %1: it is damaged, or of another kind than its suffix says.</source>
+        <translation>Die Datei ist als %1 nicht lesbar: Sie ist beschädigt oder von anderer Art, als ihre Endung sagt.</translation>
     </message>
     <message>
-        <source>This is no raw camera file: it does not carry the camera&apos;s signature.</source>
-        <translation>Das ist keine Rohdatei der Kamera: Ihr fehlt die Signatur der Kamera.</translation>
+        <source>color as gray</source>
+        <translation>Farbe als Grau</translation>
     </message>
     <message>
-        <source>This raw camera file holds no pixels.</source>
-        <translation>Diese Rohdatei enthält keine Pixel.</translation>
+        <source>alpha dropped</source>
+        <translation>ohne Alpha</translation>
     </message>
     <message>
-        <source>This raw camera file claims %1 x %2 pixels but does not hold them.</source>
-        <translation>Diese Rohdatei nennt %1 x %2 Pixel, enthält sie aber nicht.</translation>
+        <source>floating-point samples as whole numbers</source>
+        <translation>Gleitkommawerte als ganze Zahlen</translation>
     </message>
     <message>
-        <source>This raw camera file claims %1 x %2 pixels with %3 channels of %4 bytes, which is more than can be loaded.</source>
-        <translation>Diese Rohdatei nennt %1 x %2 Pixel mit %3 Kanälen zu %4 Byte; das ist mehr, als geladen werden kann.</translation>
+        <source>signed samples as whole numbers</source>
+        <translation>Werte mit Vorzeichen als ganze Zahlen</translation>
     </message>
     <message>
-        <source>Images (%1)</source>
-        <translation>Bilder (%1)</translation>
-    </message>
-    <message>
-        <source>All files (*)</source>
-        <translation>Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>The file cannot be read as a %1 image: it is damaged, or of another kind than its suffix says.</source>
-        <translation>Die Datei ist als %1-Bild nicht lesbar: Sie ist beschädigt oder von anderer Art, als ihre Endung sagt.</translation>
+        <source>page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
     </message>
     <message>
         <source>%1 × %2 pixels</source>
@@ -431,6 +361,54 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
     <message>
         <source>%1 bit</source>
         <translation>%1 Bit</translation>
+    </message>
+    <message>
+        <source>There is no file of this name.</source>
+        <translation>Es gibt keine Datei dieses Namens.</translation>
+    </message>
+    <message>
+        <source>This is a folder, not an image file.</source>
+        <translation>Das ist ein Ordner, keine Bilddatei.</translation>
+    </message>
+    <message>
+        <source>This is not a regular file.</source>
+        <translation>Das ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>The file may be sound, but its kind is not supported: its number of bits a sample or its compression, for example.</source>
+        <translation>Die Datei mag in Ordnung sein, ihre Art wird aber nicht unterstützt: zum Beispiel die Zahl ihrer Bits je Wert oder ihre Kompression.</translation>
+    </message>
+    <message>
+        <source>The image holds no pixels.</source>
+        <translation>Das Bild enthält keine Pixel.</translation>
+    </message>
+    <message>
+        <source>The image is larger than can be loaded, or than the memory that is free.</source>
+        <translation>Das Bild ist größer, als geladen werden kann, oder als der freie Speicher.</translation>
+    </message>
+    <message>
+        <source>The image has more pixels than are allowed.</source>
+        <translation>Das Bild hat mehr Pixel, als erlaubt sind.</translation>
+    </message>
+    <message>
+        <source>The file has no such page.</source>
+        <translation>Diese Seite gibt es in der Datei nicht.</translation>
+    </message>
+    <message>
+        <source>The image cannot be shown faithfully: it has values that are negative, fractional or larger than 4294967295.</source>
+        <translation>Das Bild kann nicht getreu gezeigt werden: Es hat Werte, die negativ, gebrochen oder größer als 4294967295 sind.</translation>
+    </message>
+    <message>
+        <source>The image cannot be shown faithfully: only 8, 16 or 32 bits a sample can be.</source>
+        <translation>Das Bild kann nicht getreu gezeigt werden: Das geht nur mit 8, 16 oder 32 Bit je Wert.</translation>
+    </message>
+    <message>
+        <source>The image cannot be shown faithfully: only one channel or three can be, with or without alpha.</source>
+        <translation>Das Bild kann nicht getreu gezeigt werden: Das geht nur mit einem Kanal oder dreien, mit oder ohne Alpha.</translation>
+    </message>
+    <message>
+        <source>The file cannot be shown.</source>
+        <translation>Die Datei kann nicht gezeigt werden.</translation>
     </message>
 </context>
 <context>
@@ -460,18 +438,6 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
     <message>
         <source>the window is at least %1x%2 pixels</source>
         <translation>das Fenster hat mindestens %1x%2 Pixel</translation>
-    </message>
-    <message>
-        <source>the size of the image cannot be told</source>
-        <translation>die Größe des Bildes ist nicht zu ermitteln</translation>
-    </message>
-    <message>
-        <source>the region %1,%2,%3,%4 does not lie inside the image of %5x%6 pixels</source>
-        <translation>die ROI %1,%2,%3,%4 liegt nicht im Bild von %5x%6 Pixeln</translation>
-    </message>
-    <message>
-        <source>%1: only an image has controls to set</source>
-        <translation>%1: nur ein Bild hat Bedienelemente</translation>
     </message>
 </context>
 <context>
@@ -647,6 +613,10 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
         <source>Leave the full screen</source>
         <translation>Vollbild verlassen</translation>
     </message>
+    <message>
+        <source>&amp;Delete Region</source>
+        <translation>ROI &amp;löschen</translation>
+    </message>
 </context>
 <context>
     <name>ViewerWindow</name>
@@ -703,8 +673,16 @@ Shows what is in a camera image: profiles, charts with labelled peaks, regions o
 Zeigt, was in einem Kamerabild steckt: Profile, Diagramme mit beschrifteten Peaks, ROIs und ihre Statistik.</translation>
     </message>
     <message>
-        <source>The file has changed. F5 loads it again, without the regions.</source>
-        <translation>Die Datei hat sich geändert. F5 lädt sie neu, ohne die ROIs.</translation>
+        <source>The palette %1 cannot be read.</source>
+        <translation>Die Palette %1 ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>Not all is as before: %1.</source>
+        <translation>Nicht alles ist wie vorher: %1.</translation>
+    </message>
+    <message>
+        <source>only an image has controls to set</source>
+        <translation>nur ein Bild hat Bedienelemente</translation>
     </message>
 </context>
 <context>
@@ -720,6 +698,93 @@ Zeigt, was in einem Kamerabild steckt: Profile, Diagramme mit beschrifteten Peak
     <message>
         <source>JPEG, TIFF, BMP, PNG, or a raw camera file</source>
         <translation>JPEG, TIFF, BMP, PNG oder eine Rohdatei der Kamera</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetAccess</name>
+    <message>
+        <source>Return to the gallery</source>
+        <translation>Zurück zur Galerie</translation>
+    </message>
+    <message>
+        <source>Fold the display preferences</source>
+        <translation>Anzeigeoptionen einklappen</translation>
+    </message>
+    <message>
+        <source>Axis of the chart</source>
+        <translation>Achse des Diagramms</translation>
+    </message>
+    <message>
+        <source>Number of peak labels</source>
+        <translation>Anzahl beschrifteter Peaks</translation>
+    </message>
+    <message>
+        <source>Gray palette</source>
+        <translation>Graue Palette</translation>
+    </message>
+    <message>
+        <source>Red palette</source>
+        <translation>Rote Palette</translation>
+    </message>
+    <message>
+        <source>Green palette</source>
+        <translation>Grüne Palette</translation>
+    </message>
+    <message>
+        <source>Blue palette</source>
+        <translation>Blaue Palette</translation>
+    </message>
+    <message>
+        <source>Color palette</source>
+        <translation>Farbpalette</translation>
+    </message>
+    <message>
+        <source>Label of the horizontal axis</source>
+        <translation>Beschriftung der waagerechten Achse</translation>
+    </message>
+    <message>
+        <source>Unit of the wavelength</source>
+        <translation>Einheit der Wellenlänge</translation>
+    </message>
+    <message>
+        <source>Wavelength of the first pixel</source>
+        <translation>Wellenlänge des ersten Pixels</translation>
+    </message>
+    <message>
+        <source>Wavelength of one pixel</source>
+        <translation>Wellenlänge je Pixel</translation>
+    </message>
+    <message>
+        <source>Fold the data histogram</source>
+        <translation>Histogramm einklappen</translation>
+    </message>
+    <message>
+        <source>Region of interest</source>
+        <translation>ROI</translation>
+    </message>
+    <message>
+        <source>Add a region of interest</source>
+        <translation>ROI hinzufügen</translation>
+    </message>
+    <message>
+        <source>Delete the region of interest</source>
+        <translation>ROI löschen</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>Leiste</translation>
     </message>
 </context>
 </TS>

@@ -60,6 +60,10 @@
         <translation>--peaks 须与 --view x 或 --view y 一起使用</translation>
     </message>
     <message>
+        <source>there is no display to open a window on (--screenshot needs none)</source>
+        <translation>没有可供打开窗口的显示器（--screenshot 不需要）</translation>
+    </message>
+    <message>
         <source>Usage: vkviewer [IMAGE | FOLDER]
        vkviewer --screenshot FILE.png [OPTIONS] IMAGE | FOLDER
 
@@ -72,8 +76,8 @@ its images are shown in a gallery.
   --view image|x|y        show the image, or its row or column as a chart
   --peaks N               label the N strongest peaks of the chart, 1 to 200
   --palette NAME          gray, red, green, blue or color
-  --roi X,Y,WIDTH,HEIGHT  mark a region, in pixels from the top left; can be given more
-                          than once, and prints what became of it on the screen
+  --roi X,Y,WIDTH,HEIGHT  mark exactly these pixels, counted from the top left; can be
+                          given more than once
   --wavelength START,WIDTH[,UNIT]
                           label the axis in wavelengths: that of the first pixel, 0 to
                           2000, what each pixel adds, 1 to 100, and the unit, um or nm
@@ -92,8 +96,7 @@ its images are shown in a gallery.
   --view image|x|y        显示图像，或以图表显示其行或列
   --peaks N               标注图表中最强的 N 个峰，1 到 200
   --palette 名称          gray、red、green、blue 或 color
-  --roi X,Y,宽,高         标记区域，以像素计，从左上角起；可多次给出，
-                          并输出其在屏幕上的结果
+  --roi X,Y,宽,高         准确标记这些像素，从左上角数起；可多次给出
   --wavelength 起点,宽度[,单位]
                           以波长标注坐标轴：第一个像素的波长，0 到 2000；
                           每个像素增加的量，1 到 100；单位为 um 或 nm
@@ -101,40 +104,32 @@ its images are shown in a gallery.
   --version               显示版本
 </translation>
     </message>
-    <message>
-        <source>there is no display to open a window on (--screenshot needs none)</source>
-        <translation>没有可供打开窗口的显示器（--screenshot 不需要）</translation>
-    </message>
 </context>
 <context>
-    <name>ControlDriver</name>
+    <name>DisplaySettings</name>
     <message>
-        <source>the control %1 has no entry %2</source>
-        <translation>控件 %1 没有第 %2 项</translation>
+        <source>the region %1,%2,%3,%4 does not lie inside the image of %5x%6 pixels</source>
+        <translation>区域 %1,%2,%3,%4 不在 %5x%6 像素的图像内</translation>
     </message>
     <message>
-        <source>the control %1 does not take %2</source>
-        <translation>控件 %1 不接受 %2</translation>
+        <source>the axis does not take these wavelengths</source>
+        <translation>坐标轴不接受这些波长</translation>
     </message>
     <message>
-        <source>the canvas takes no region</source>
-        <translation>画布不接受区域</translation>
+        <source>the chart does not take %1 peaks</source>
+        <translation>图表不接受 %1 个峰</translation>
     </message>
     <message>
-        <source>the panel does not tell where the region is</source>
-        <translation>面板没有显示区域位置</translation>
+        <source>there is no such chart</source>
+        <translation>没有此图表</translation>
     </message>
     <message>
-        <source>%1: x %2, y %3 (from the top %4 to %5)</source>
-        <translation>%1：x %2，y %3（从顶部算 %4 至 %5）</translation>
+        <source>there is no such view</source>
+        <translation>没有此视图</translation>
     </message>
     <message>
-        <source>the control %1 is disabled</source>
-        <translation>控件 %1 不可用</translation>
-    </message>
-    <message>
-        <source>there is no control %1</source>
-        <translation>没有控件 %1</translation>
+        <source>the palette %1 cannot be read</source>
+        <translation>无法读取调色板 %1</translation>
     </message>
 </context>
 <context>
@@ -142,6 +137,20 @@ its images are shown in a gallery.
     <message>
         <source>Choose Folder...</source>
         <translation>选择文件夹...</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryDelegate</name>
+    <message>
+        <source>Large image</source>
+        <translation>大图像</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryModel</name>
+    <message>
+        <source>Too large for a small picture; it can be opened.</source>
+        <translation>图像过大，不显示缩略图；可以打开。</translation>
     </message>
 </context>
 <context>
@@ -275,105 +284,33 @@ its images are shown in a gallery.
     </message>
 </context>
 <context>
-    <name>ImageControls</name>
+    <name>ImageFiles</name>
     <message>
-        <source>Return to the gallery</source>
-        <translation>返回图库</translation>
+        <source>Images (%1)</source>
+        <translation>图像 (%1)</translation>
     </message>
     <message>
-        <source>Fold the display preferences</source>
-        <translation>折叠显示设置</translation>
-    </message>
-    <message>
-        <source>Axis of the chart</source>
-        <translation>图表的轴</translation>
-    </message>
-    <message>
-        <source>Number of peak labels</source>
-        <translation>峰值标注数</translation>
-    </message>
-    <message>
-        <source>Gray palette</source>
-        <translation>灰色调色板</translation>
-    </message>
-    <message>
-        <source>Red palette</source>
-        <translation>红色调色板</translation>
-    </message>
-    <message>
-        <source>Green palette</source>
-        <translation>绿色调色板</translation>
-    </message>
-    <message>
-        <source>Blue palette</source>
-        <translation>蓝色调色板</translation>
-    </message>
-    <message>
-        <source>Color palette</source>
-        <translation>彩色调色板</translation>
-    </message>
-    <message>
-        <source>Label of the horizontal axis</source>
-        <translation>水平轴的标签</translation>
-    </message>
-    <message>
-        <source>Unit of the wavelength</source>
-        <translation>波长单位</translation>
-    </message>
-    <message>
-        <source>Wavelength of the first pixel</source>
-        <translation>第一个像素的波长</translation>
-    </message>
-    <message>
-        <source>Wavelength of one pixel</source>
-        <translation>每个像素的波长</translation>
-    </message>
-    <message>
-        <source>Fold the data histogram</source>
-        <translation>折叠数据直方图</translation>
-    </message>
-    <message>
-        <source>Region of interest</source>
-        <translation>感兴趣区域</translation>
-    </message>
-    <message>
-        <source>Add a region of interest</source>
-        <translation>添加感兴趣区域</translation>
-    </message>
-    <message>
-        <source>Delete the region of interest</source>
-        <translation>删除感兴趣区域</translation>
-    </message>
-    <message>
-        <source>Zoom in</source>
-        <translation>放大</translation>
-    </message>
-    <message>
-        <source>Zoom out</source>
-        <translation>缩小</translation>
-    </message>
-    <message>
-        <source>Image</source>
-        <translation>图像</translation>
-    </message>
-    <message>
-        <source>Panel</source>
-        <translation>面板</translation>
+        <source>All files (*)</source>
+        <translation>所有文件 (*)</translation>
     </message>
 </context>
 <context>
-    <name>ImageFiles</name>
+    <name>ImageTexts</name>
     <message>
-        <source>There is no file of this name.</source>
-        <translation>没有此名称的文件。</translation>
+        <source>raw camera file</source>
+        <translation>相机原始文件</translation>
     </message>
     <message>
-        <source>This is a folder, not an image file.</source>
-        <translation>这是文件夹，不是图像文件。</translation>
+        <source>JPEG image</source>
+        <translation>JPEG 图像</translation>
     </message>
     <message>
-        <source>This is not a regular file.</source>
-        <translation>这不是普通文件。</translation>
+        <source>TIFF image</source>
+        <translation>TIFF 图像</translation>
+    </message>
+    <message>
+        <source>%1 image</source>
+        <translation>%1 图像</translation>
     </message>
     <message>
         <source>The file name has no suffix. Images end in %1.</source>
@@ -392,36 +329,28 @@ its images are shown in a gallery.
         <translation>文件为空。</translation>
     </message>
     <message>
-        <source>The file cannot be opened.</source>
-        <translation>无法打开文件。</translation>
+        <source>The file cannot be read as a %1: it is damaged, or of another kind than its suffix says.</source>
+        <translation>无法将文件作为%1读取：文件已损坏，或类型与后缀不符。</translation>
     </message>
     <message>
-        <source>This is no raw camera file: it does not carry the camera&apos;s signature.</source>
-        <translation>这不是相机原始文件：缺少相机签名。</translation>
+        <source>color as gray</source>
+        <translation>彩色显示为灰度</translation>
     </message>
     <message>
-        <source>This raw camera file holds no pixels.</source>
-        <translation>此相机原始文件不含像素。</translation>
+        <source>alpha dropped</source>
+        <translation>已去除 Alpha</translation>
     </message>
     <message>
-        <source>This raw camera file claims %1 x %2 pixels but does not hold them.</source>
-        <translation>此相机原始文件声称有 %1 x %2 像素，但实际没有。</translation>
+        <source>floating-point samples as whole numbers</source>
+        <translation>浮点值显示为整数</translation>
     </message>
     <message>
-        <source>This raw camera file claims %1 x %2 pixels with %3 channels of %4 bytes, which is more than can be loaded.</source>
-        <translation>此相机原始文件声称有 %1 x %2 像素、%3 个通道、每通道 %4 字节，超出可加载的大小。</translation>
+        <source>signed samples as whole numbers</source>
+        <translation>有符号值显示为整数</translation>
     </message>
     <message>
-        <source>Images (%1)</source>
-        <translation>图像 (%1)</translation>
-    </message>
-    <message>
-        <source>All files (*)</source>
-        <translation>所有文件 (*)</translation>
-    </message>
-    <message>
-        <source>The file cannot be read as a %1 image: it is damaged, or of another kind than its suffix says.</source>
-        <translation>无法将文件作为 %1 图像读取：文件已损坏，或类型与后缀不符。</translation>
+        <source>page %1 of %2</source>
+        <translation>第 %1 页，共 %2 页</translation>
     </message>
     <message>
         <source>%1 × %2 pixels</source>
@@ -430,6 +359,54 @@ its images are shown in a gallery.
     <message>
         <source>%1 bit</source>
         <translation>%1 位</translation>
+    </message>
+    <message>
+        <source>There is no file of this name.</source>
+        <translation>没有此名称的文件。</translation>
+    </message>
+    <message>
+        <source>This is a folder, not an image file.</source>
+        <translation>这是文件夹，不是图像文件。</translation>
+    </message>
+    <message>
+        <source>This is not a regular file.</source>
+        <translation>这不是普通文件。</translation>
+    </message>
+    <message>
+        <source>The file may be sound, but its kind is not supported: its number of bits a sample or its compression, for example.</source>
+        <translation>文件可能完好，但不支持其类型，例如其每样本位数或压缩方式。</translation>
+    </message>
+    <message>
+        <source>The image holds no pixels.</source>
+        <translation>图像不含像素。</translation>
+    </message>
+    <message>
+        <source>The image is larger than can be loaded, or than the memory that is free.</source>
+        <translation>图像超出可加载的大小或可用内存。</translation>
+    </message>
+    <message>
+        <source>The image has more pixels than are allowed.</source>
+        <translation>图像的像素数超出允许的范围。</translation>
+    </message>
+    <message>
+        <source>The file has no such page.</source>
+        <translation>文件没有此页。</translation>
+    </message>
+    <message>
+        <source>The image cannot be shown faithfully: it has values that are negative, fractional or larger than 4294967295.</source>
+        <translation>无法如实显示图像：其中有负值、小数或大于 4294967295 的值。</translation>
+    </message>
+    <message>
+        <source>The image cannot be shown faithfully: only 8, 16 or 32 bits a sample can be.</source>
+        <translation>无法如实显示图像：仅支持每样本 8、16 或 32 位。</translation>
+    </message>
+    <message>
+        <source>The image cannot be shown faithfully: only one channel or three can be, with or without alpha.</source>
+        <translation>无法如实显示图像：仅支持一个或三个通道，可带或不带 Alpha。</translation>
+    </message>
+    <message>
+        <source>The file cannot be shown.</source>
+        <translation>无法显示此文件。</translation>
     </message>
 </context>
 <context>
@@ -459,18 +436,6 @@ its images are shown in a gallery.
     <message>
         <source>the window is at least %1x%2 pixels</source>
         <translation>窗口至少为 %1x%2 像素</translation>
-    </message>
-    <message>
-        <source>the size of the image cannot be told</source>
-        <translation>无法确定图像大小</translation>
-    </message>
-    <message>
-        <source>the region %1,%2,%3,%4 does not lie inside the image of %5x%6 pixels</source>
-        <translation>区域 %1,%2,%3,%4 不在 %5x%6 像素的图像内</translation>
-    </message>
-    <message>
-        <source>%1: only an image has controls to set</source>
-        <translation>%1：只有图像才有可设置的控件</translation>
     </message>
 </context>
 <context>
@@ -646,6 +611,10 @@ its images are shown in a gallery.
         <source>Leave the full screen</source>
         <translation>退出全屏</translation>
     </message>
+    <message>
+        <source>&amp;Delete Region</source>
+        <translation>删除区域(&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>ViewerWindow</name>
@@ -702,8 +671,16 @@ Shows what is in a camera image: profiles, charts with labelled peaks, regions o
 显示相机图像的内容：剖面、带峰值标注的图表、感兴趣区域及其统计数据。</translation>
     </message>
     <message>
-        <source>The file has changed. F5 loads it again, without the regions.</source>
-        <translation>文件已更改。按 F5 重新加载（不保留区域）。</translation>
+        <source>The palette %1 cannot be read.</source>
+        <translation>无法读取调色板 %1。</translation>
+    </message>
+    <message>
+        <source>Not all is as before: %1.</source>
+        <translation>并非一切如前：%1。</translation>
+    </message>
+    <message>
+        <source>only an image has controls to set</source>
+        <translation>只有图像才有可设置的控件</translation>
     </message>
 </context>
 <context>
@@ -719,6 +696,93 @@ Shows what is in a camera image: profiles, charts with labelled peaks, regions o
     <message>
         <source>JPEG, TIFF, BMP, PNG, or a raw camera file</source>
         <translation>JPEG、TIFF、BMP、PNG 或相机原始文件</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetAccess</name>
+    <message>
+        <source>Return to the gallery</source>
+        <translation>返回图库</translation>
+    </message>
+    <message>
+        <source>Fold the display preferences</source>
+        <translation>折叠显示设置</translation>
+    </message>
+    <message>
+        <source>Axis of the chart</source>
+        <translation>图表的轴</translation>
+    </message>
+    <message>
+        <source>Number of peak labels</source>
+        <translation>峰值标注数</translation>
+    </message>
+    <message>
+        <source>Gray palette</source>
+        <translation>灰色调色板</translation>
+    </message>
+    <message>
+        <source>Red palette</source>
+        <translation>红色调色板</translation>
+    </message>
+    <message>
+        <source>Green palette</source>
+        <translation>绿色调色板</translation>
+    </message>
+    <message>
+        <source>Blue palette</source>
+        <translation>蓝色调色板</translation>
+    </message>
+    <message>
+        <source>Color palette</source>
+        <translation>彩色调色板</translation>
+    </message>
+    <message>
+        <source>Label of the horizontal axis</source>
+        <translation>水平轴的标签</translation>
+    </message>
+    <message>
+        <source>Unit of the wavelength</source>
+        <translation>波长单位</translation>
+    </message>
+    <message>
+        <source>Wavelength of the first pixel</source>
+        <translation>第一个像素的波长</translation>
+    </message>
+    <message>
+        <source>Wavelength of one pixel</source>
+        <translation>每个像素的波长</translation>
+    </message>
+    <message>
+        <source>Fold the data histogram</source>
+        <translation>折叠数据直方图</translation>
+    </message>
+    <message>
+        <source>Region of interest</source>
+        <translation>感兴趣区域</translation>
+    </message>
+    <message>
+        <source>Add a region of interest</source>
+        <translation>添加感兴趣区域</translation>
+    </message>
+    <message>
+        <source>Delete the region of interest</source>
+        <translation>删除感兴趣区域</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>图像</translation>
+    </message>
+    <message>
+        <source>Panel</source>
+        <translation>面板</translation>
     </message>
 </context>
 </TS>
