@@ -72,5 +72,5 @@ void TestFileDrop::answer_isAlwaysACopy()
     }
 }
 
-QTEST_GUILESS_MAIN(TestFileDrop)
+QTEST_MAIN(TestFileDrop) // a drop event asks the platform for its default
 #include "tst_filedrop.moc"

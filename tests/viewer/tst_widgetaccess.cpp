@@ -5,6 +5,7 @@
 #include "rawframe.h"
 
 #include <QDirIterator>
+#include <QGraphicsTextItem>
 #include <QGraphicsView>
 #include <QLabel>
 #include <QPushButton>
