@@ -40,6 +40,7 @@ private:
 
 void TestThumbnailLoader::initTestCase()
 {
+    qRegisterMetaType<LoadProblem>("CVKIntensityWidget::LoadProblem"); // for spies
     QImage image(400, 300, QImage::Format_Grayscale8);
     image.fill(50);
     QPainter(&image).fillRect(200, 0, 200, 300, QColor(100, 100, 100));
@@ -110,7 +111,7 @@ void TestThumbnailLoader::brokenFiles_areAnnouncedAsNull_data()
         QTest::addRow("cut off after %d bytes", length) << jpeg.left(length);
     }
     const int frame = jpeg.indexOf("\xff\xc0"); // marker, length, bits a sample
-    QVERIFY(frame > 150 && jpeg.at(frame + 4) == 8);
+    QVERIFY(frame > 0 && jpeg.at(frame + 4) == 8);
     QByteArray twelve = jpeg;
     twelve[frame + 4] = 12;
     QTest::newRow("12 bits a sample") << twelve;

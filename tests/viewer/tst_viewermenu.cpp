@@ -405,9 +405,9 @@ void TestViewerMenu::deleteKey_belongsToATextField()
     press("Ctrl+2");
     auto* field = m_viewer->control<QLineEdit>("lineEditPeaks");
     field->setFocus();
-    field->home(false);
+    field->selectAll();
     QTest::keyClick(field, Qt::Key_Delete);
-    QCOMPARE(field->text(), QString("0")); // of 10
+    QVERIFY(field->text().isEmpty());
     QCOMPARE(image->regions().size(), 1);
 }
 
