@@ -1,4 +1,5 @@
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -17,6 +18,8 @@ private Q_SLOTS:
     void links_leadToFiles();
     void pages_areReachable();
     void rawWriter_isShownAsItIs();
+    void skinImages_areThoseThatAreLoaded();
+    void loadProblems_areAllExplained();
 };
 
 namespace {
@@ -64,6 +67,18 @@ QString linkedFile(const QString& path, const QString& target)
     }
     const QString file = target.section('#', 0, 0);
     return file.isEmpty() ? path : QDir::cleanPath(QFileInfo(path).dir().filePath(file));
+}
+
+/// What `pattern` captures in `text`; ^ stands for the start of each line.
+QSet<QString> captures(const QString& text, const QString& pattern)
+{
+    const QRegularExpression expression(pattern, QRegularExpression::MultilineOption);
+    QSet<QString> found;
+    QRegularExpressionMatchIterator matches = expression.globalMatch(text);
+    while (matches.hasNext()) {
+        found << matches.next().captured(1);
+    }
+    return found;
 }
 
 } // namespace
@@ -116,6 +131,27 @@ void TestDocuments::rawWriter_isShownAsItIs()
     const QString source = content(root + "/examples/rawwriter/main.cpp");
     QVERIFY(!source.isEmpty());
     QVERIFY(content(root + "/docs/raw-format.md").contains("```cpp\n" + source + "```\n"));
+}
+
+void TestDocuments::skinImages_areThoseThatAreLoaded()
+{
+    QSet<QString> loaded;
+    QDirIterator sources(root + "/src", { "*.cpp" }, QDir::Files, QDirIterator::Subdirectories);
+    while (sources.hasNext()) {
+        loaded += captures(content(sources.next()), "[\"(](:[^\"()]+\\.(?:png|jpg))[\")]");
+    }
+    QCOMPARE(loaded.size(), 15);
+    QCOMPARE(captures(content(root + "/docs/embedding.md"), "\\| `(:[^`]+)`"), loaded);
+}
+
+void TestDocuments::loadProblems_areAllExplained()
+{
+    const QString header = content(root + "/src/widget/cvkintensitywidget.h");
+    const QString problems = header.section("enum class LoadProblem {", 1).section("};", 0, 0);
+    const QSet<QString> names = captures(problems, "^ *([A-Z][A-Za-z]+)");
+    QVERIFY(names.size() > 5);
+    const QString table = content(root + "/docs/embedding.md").section("| `LoadProblem` |", 1);
+    QCOMPARE(captures(table.section("\n\n", 0, 0), "`([A-Z][A-Za-z]+)`[^|]*\\|"), names);
 }
 
 QTEST_GUILESS_MAIN(TestDocuments)
