@@ -7,23 +7,28 @@
 #include <QTemporaryDir>
 #include <QtEndian>
 
+#include <array>
 #include <cstdio>
 
 namespace {
 
-bool writeRawFile(const QString& path, const std::vector<quint16>& samples)
+bool writeRawFile(const QString& path, std::vector<quint16> samples)
 {
-    QByteArray bytes(1024 + int(2 * samples.size()), '\0');
-    char* const header = bytes.data();
-    qstrcpy(header, "VORLAK");
-    qToLittleEndian(quint16(FrameSeries::side), header + 12);
-    qToLittleEndian(quint16(FrameSeries::side), header + 14);
+    const qint64 pixelBytes = qint64(samples.size()) * 2;
+    std::array<char, 1024> header { "VORLAK" };
+    qToLittleEndian(quint16(FrameSeries::side), header.data() + 12);
+    qToLittleEndian(quint16(FrameSeries::side), header.data() + 14);
     header[22] = 1;
     header[23] = 2;
-    qToLittleEndian(quint32(2 * samples.size()), header + 32);
-    qToLittleEndian<quint16>(samples.data(), qsizetype(samples.size()), header + 1024);
+    qToLittleEndian(quint32(pixelBytes), header.data() + 32);
+    for (quint16& sample : samples) {
+        sample = qToLittleEndian(sample);
+    }
     QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
+    return file.open(QIODevice::WriteOnly)
+        && file.write(header.data(), qint64(header.size())) == qint64(header.size())
+        && file.write(reinterpret_cast<const char*>(samples.data()), pixelBytes) == pixelBytes
+        && file.flush();
 }
 
 bool isSame(const char* name, int frame, bool equal)

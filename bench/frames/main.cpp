@@ -4,7 +4,6 @@
 #include <cvkintensitywidget.h>
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QEvent>
 #include <QGraphicsView>
 #include <QLoggingCategory>
@@ -12,6 +11,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <ctime>
 #include <vector>
 
 namespace {
@@ -41,16 +41,16 @@ double median(std::vector<double> values)
     return *middle;
 }
 
-/// Milliseconds from the call of updateFrame() until the window has been painted.
+/// Milliseconds of processor time, which other programs do not lengthen, from the call of
+/// updateFrame() until the window has been painted.
 double updateTime(CVKIntensityWidget* intensity, const CVKIntensityWidget::Frame& frame)
 {
-    QElapsedTimer clock;
-    clock.start();
+    const std::clock_t start = std::clock();
     if (!intensity->updateFrame(frame)) {
         return -1.0;
     }
     QApplication::processEvents();
-    return double(clock.nsecsElapsed()) * 1e-6;
+    return 1000.0 * double(std::clock() - start) / CLOCKS_PER_SEC;
 }
 
 /// Prints the median time of a frame and the numbers of the region in the last one.
