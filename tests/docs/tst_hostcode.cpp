@@ -183,6 +183,7 @@ void TestHostCode::cleanup()
 void TestHostCode::window_readsFaithfully()
 {
     MainWindow window;
+    window.resize(1000, 700);
     window.show();
     const auto* intensity = window.findChild<CVKIntensityWidget*>();
     QVERIFY(window.open(path("ramp.raw")));
