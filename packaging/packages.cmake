@@ -37,7 +37,8 @@ VKIntensityWidget shows a camera image with its intensity profiles, rulers,
 false-colour palettes and regions of interest.
 
 This package contains what is needed to build applications with the widget: its
-header, a CMake package, a pkg-config file and a plugin for Qt Designer.]])
+header, the host kit with skin images, style sheet and palettes, a CMake
+package, a pkg-config file and a plugin for Qt Designer.]])
 
 # install_documents(<component> <package>): what each Debian package carries; left out of a plain
 # installation.

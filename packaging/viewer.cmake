@@ -13,8 +13,7 @@ else()
 endif()
 find_library_from(vkviewer "${viewer_dir}")
 install(TARGETS vkviewer RUNTIME DESTINATION "${viewer_dir}" COMPONENT viewer)
-install(DIRECTORY "${PROJECT_BINARY_DIR}/viewer/pal"
-    DESTINATION "${viewer_dir}" COMPONENT viewer FILES_MATCHING PATTERN "*.pal")
+install(DIRECTORY "${kit_dir}/pal" DESTINATION "${viewer_dir}" COMPONENT viewer)
 
 if(UNIX AND NOT APPLE)
     set(application org.vkintensity.VKViewer)
@@ -25,7 +24,7 @@ if(UNIX AND NOT APPLE)
         DESTINATION "${CMAKE_INSTALL_DATADIR}/mime/packages" COMPONENT viewer)
     install(FILES "${CMAKE_CURRENT_BINARY_DIR}/${application}.metainfo.xml"
         DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo" COMPONENT viewer)
-    install(FILES "${PROJECT_BINARY_DIR}/viewer/skin/logo.png"
+    install(FILES "${PROJECT_BINARY_DIR}/viewer/resources/logo.png"
         DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/256x256/apps"
         RENAME ${application}.png COMPONENT viewer)
 

@@ -17,5 +17,8 @@ struct SkinImage
 /// Column, canvas, title bars, module panels and the Return button.
 QVector<SkinImage> widgetSkinImages();
 
-/// What the viewer's own style sheet and pages use.
+/// Signs on the widget's buttons, boxes and lists; the style sheet of the host kit names them.
+QVector<SkinImage> controlGlyphs();
+
+/// Pictures on the viewer's pages.
 QVector<SkinImage> viewerImages();

@@ -6,53 +6,6 @@
 
 namespace {
 
-// Glyphs are drawn large; the style sheet scales them down to the size of their button.
-constexpr int glyphSide = 96;
-
-QImage glyph(const QVector<QPointF>& line, const QColor& color, qreal width)
-{
-    QImage image = skinCanvas(glyphSide, glyphSide);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPolyline(QPolygonF(line));
-    return image;
-}
-
-QImage zoomOut()
-{
-    return glyph({ { 16.0, 48.0 }, { 80.0, 48.0 } }, glyphColor, 9.0);
-}
-
-QImage zoomIn()
-{
-    QImage image = zoomOut();
-    QPainter painter(&image);
-    painter.drawImage(0, 0, glyph({ { 48.0, 16.0 }, { 48.0, 80.0 } }, glyphColor, 9.0));
-    return image;
-}
-
-QImage arrowDown()
-{
-    return glyph({ { 20.0, 34.0 }, { 48.0, 64.0 }, { 76.0, 34.0 } }, glyphColor, 11.0);
-}
-
-QImage arrowRight()
-{
-    return glyph({ { 36.0, 20.0 }, { 64.0, 48.0 }, { 36.0, 76.0 } }, glyphColor, 11.0);
-}
-
-QImage arrowDownDisabled()
-{
-    return glyph(
-        { { { 20.0, 34.0 }, { 48.0, 64.0 }, { 76.0, 34.0 } } }, QColor(96, 105, 116), 11.0);
-}
-
-QImage checkMark()
-{
-    return glyph({ { 20.0, 50.0 }, { 40.0, 70.0 }, { 76.0, 26.0 } }, glyphColor, 14.0);
-}
-
 /// Profile of three peaks between 0 and 1, for the picture of the program.
 double profile(double x)
 {
@@ -113,12 +66,6 @@ QImage problemPicture()
 QVector<SkinImage> viewerImages()
 {
     return {
-        { "zoom_in.png", zoomIn },
-        { "zoom_out.png", zoomOut },
-        { "arrow_down.png", arrowDown },
-        { "arrow_down_disabled.png", arrowDownDisabled },
-        { "arrow_right.png", arrowRight },
-        { "check_mark.png", checkMark },
         { "logo.png", logo },
         { "problem.png", problemPicture },
     };

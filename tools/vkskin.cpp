@@ -7,7 +7,8 @@
 
 #include <cstdio>
 
-// Run by the build: draws the skin images and writes the palette files that go beside the viewer.
+// Run by the build: draws the images of the host kit and of the viewer, and writes the palette
+// files that go beside every program with the widget.
 
 namespace {
 
@@ -23,10 +24,9 @@ bool writeText(const QString& path, const QByteArray& text)
     return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
 }
 
-int writeImages(const QDir& folder)
+int writeImages(const QDir& folder, const QVector<SkinImage>& images)
 {
     constexpr int jpegQuality = 95;
-    const QVector<SkinImage> images = widgetSkinImages() + viewerImages();
     for (const SkinImage& image : images) {
         const QString path = folder.filePath(image.fileName);
         const int quality = path.endsWith(".jpg") ? jpegQuality : -1;
@@ -55,12 +55,16 @@ int main(int argc, char* argv[])
     const QCoreApplication application(argc, argv); // finds the image format plugins
     const QStringList arguments = QCoreApplication::arguments();
     const QString what = arguments.value(1);
-    if (arguments.size() != 3 || (what != "images" && what != "palettes")) {
-        return fail("images DIR or palettes DIR");
+    if (arguments.size() != 3 || !QStringList({ "widget", "viewer", "palettes" }).contains(what)) {
+        return fail("widget DIR, viewer DIR or palettes DIR");
     }
     const QDir folder(arguments.at(2));
     if (!folder.mkpath(".")) {
         return fail(folder.path() + ": the folder cannot be made");
     }
-    return what == "images" ? writeImages(folder) : writePalettes(folder);
+    if (what == "palettes") {
+        return writePalettes(folder);
+    }
+    return writeImages(
+        folder, what == "widget" ? widgetSkinImages() + controlGlyphs() : viewerImages());
 }

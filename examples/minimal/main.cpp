@@ -1,4 +1,5 @@
 #include <cvkintensitywidget.h>
+#include <vkintensityhost.h>
 
 #include <QApplication>
 #include <QMainWindow>
@@ -9,9 +10,7 @@ int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
-    QApplication::setPalette(QColor(44, 52, 62)); // dark: captions and rulers are white
-    application.setStyleSheet("QPushButton#tool_Zoom_In { background: #48acba; }"
-                              "QPushButton#tool_Zoom_Out { background: #286c76; }");
+    vkintensityhost::applyLook();
     QMainWindow window;
     auto* intensity = new CVKIntensityWidget(&window);
     window.setCentralWidget(intensity);

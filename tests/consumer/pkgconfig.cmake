@@ -10,3 +10,12 @@ execute_process(
         "-Wl,-rpath,${PREFIX}/${LIBDIR}"
     COMMAND_ERROR_IS_FATAL ANY)
 execute_process(COMMAND "${PROGRAM}" "${FRAME}" "${PICTURE}" COMMAND_ERROR_IS_FATAL ANY)
+
+# The palettes stand where the package says.
+execute_process(COMMAND "${PKG_CONFIG}" --variable=hostkitdir vkintensitywidget
+    OUTPUT_VARIABLE kit OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+foreach(file pal/color.pal style.qss vkintensityhost.qrc skin/mdi_bk.jpg)
+    if(NOT EXISTS "${kit}/${file}")
+        message(SEND_ERROR "${kit}/${file} is missing")
+    endif()
+endforeach()

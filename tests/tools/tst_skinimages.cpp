@@ -8,7 +8,7 @@ namespace {
 
 QImage skinImage(const QString& fileName)
 {
-    for (const SkinImage& image : widgetSkinImages() + viewerImages()) {
+    for (const SkinImage& image : widgetSkinImages() + controlGlyphs() + viewerImages()) {
         if (image.fileName == fileName) {
             return image.draw();
         }
@@ -78,7 +78,7 @@ void TestSkinImages::sizes()
 
 void TestSkinImages::everyImageShowsSomething()
 {
-    for (const SkinImage& image : widgetSkinImages() + viewerImages()) {
+    for (const SkinImage& image : widgetSkinImages() + controlGlyphs() + viewerImages()) {
         const QImage drawn = image.draw().convertToFormat(QImage::Format_ARGB32);
         int opaque = 0;
         for (int y = 0; y < drawn.height(); ++y) {

@@ -1,97 +1,89 @@
-#include "appearance.h"
+#include "gallerypage.h"
+#include "support/focusvisibility.h"
+#include "viewerfixture.h"
 
 #include <QApplication>
+#include <QListView>
 #include <QPixmap>
 #include <QPushButton>
-#include <QtTest>
 
+/// The viewer's own rules and pictures; the rest of its look is that of the host kit.
 class TestAppearance : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase();
-    void everySkinImageIsFound_data();
-    void everySkinImageIsFound();
-    void everyImageOfTheStyleSheetIsFound();
-    void fontIsSetInPixels();
-    void scaledForScreen_at96();
-    void zoomButtons_areVisible();
+    void ownRules_comeAfterThoseOfTheKit();
+    void pictures_areFound();
+    void welcomeAndProblem_showTheFocus();
+    void gallery_showsTheFocus();
+    void emptyFolder_showsTheFocus();
 
 private:
-    QImage rendered(const QString& objectName, bool pressed) const;
+    void checkPage(const QWidget* page, int controls);
 };
 
 void TestAppearance::initTestCase()
 {
-    initViewerResources();
-    applyAppearance();
+    ViewerFixture::setUpProgram();
 }
 
-void TestAppearance::everySkinImageIsFound_data()
+void TestAppearance::ownRules_comeAfterThoseOfTheKit()
 {
-    QTest::addColumn<QString>("path");
-    for (const char* path : { ":img_mdi_res/skin/mdi_mod_header.png",
-             ":img_mdi_res/skin/mdi_mod_body.png", ":img_mdi_res/skin/mdi_mod_border.png",
-             ":img_mdi_res/skin/mod_title_left.png", ":img_mdi_res/skin/mod_title_middle.png",
-             ":img_mdi_res/skin/mod_title_right.png", ":res/skin/mdi_bk.jpg",
-             ":res/skin/mod_cfg_close_p.png", ":res/skin/mod_cfg_close_h.png",
-             ":/ui/res/icon/module_bl.png", ":/ui/res/icon/module_br.png",
-             ":/ui/res/icon/moduel_m.png", ":/ui/res/icon/module_ml.png",
-             ":/ui/res/icon/module_mr.png", ":/ui/res/icon/module_bm.png" }) {
-        QTest::newRow(path) << path;
+    const QString sheet = qApp->styleSheet();
+    QVERIFY(sheet.startsWith(vkintensityhost::styleSheet()));
+    QVERIFY(sheet.contains("QListView#galleryView"));
+    QVERIFY(!vkintensityhost::styleSheet().contains("QListView#galleryView"));
+}
+
+void TestAppearance::pictures_areFound()
+{
+    for (const char* name : { "logo.png", "problem.png" }) {
+        QVERIFY2(!QPixmap(QString(":/viewer/%1").arg(name)).isNull(), name);
     }
+    QVERIFY(!QApplication::windowIcon().isNull());
 }
 
-void TestAppearance::everySkinImageIsFound()
+/// Tab leads through as many controls of the page, each of which shows the focus.
+void TestAppearance::checkPage(const QWidget* page, int controls)
 {
-    QFETCH(QString, path);
-    QVERIFY(!QPixmap(path).isNull());
-}
-
-void TestAppearance::everyImageOfTheStyleSheetIsFound()
-{
-    QRegularExpressionMatchIterator matches
-        = QRegularExpression("url\\(([^)]*)\\)").globalMatch(qApp->styleSheet());
-    int found = 0;
-    while (matches.hasNext()) {
-        const QString path = matches.next().captured(1);
-        QVERIFY2(!QPixmap(path).isNull(), qPrintable(path));
-        ++found;
+    int checked = 0;
+    for (QWidget* control : page->findChildren<QWidget*>()) {
+        if (!control->isVisible() || control->focusProxy()
+            || !(control->focusPolicy() & Qt::TabFocus)) {
+            continue;
+        }
+        control->clearFocus(); // may have been given without a key
+        control->setFocus(Qt::TabFocusReason);
+        QVERIFY2(focusIsSeen(control), qPrintable(control->objectName()));
+        ++checked;
     }
-    QVERIFY(found >= 6);
+    QCOMPARE(checked, controls);
 }
 
-void TestAppearance::fontIsSetInPixels()
+void TestAppearance::welcomeAndProblem_showTheFocus()
 {
-    QCOMPARE(QApplication::font().pixelSize(), 13); // platforms differ in their own default
+    ViewerFixture viewer;
+    checkPage(viewer.page(), 1);
+    QVERIFY(!viewer.window->openFile(viewer.path("gone.raw")));
+    checkPage(viewer.page(), 1);
 }
 
-void TestAppearance::scaledForScreen_at96()
+void TestAppearance::gallery_showsTheFocus()
 {
-    QCOMPARE(scaledForScreen(290), 290);
-    QCOMPARE(scaledForScreen(0), 0);
+    ViewerFixture viewer;
+    viewer.window->showGallery(viewer.folder.path());
+    QTRY_VERIFY(!viewer.window->isGalleryLoading());
+    checkPage(viewer.page(), 2); // the button and the list
 }
 
-QImage TestAppearance::rendered(const QString& objectName, bool pressed) const
+void TestAppearance::emptyFolder_showsTheFocus()
 {
-    QPushButton button;
-    button.setObjectName(objectName);
-    button.setFixedSize(40, 40);
-    button.setDown(pressed);
-    return button.grab().toImage();
-}
-
-void TestAppearance::zoomButtons_areVisible()
-{
-    const QImage in = rendered("tool_Zoom_In", false);
-    const QImage out = rendered("tool_Zoom_Out", false);
-    QVERIFY(in.pixelColor(20, 20).lightness() > 180); // both glyphs cross the middle
-    QVERIFY(out.pixelColor(20, 20).lightness() > 180);
-    QVERIFY(in.pixelColor(20, 13).lightness() > 180); // only the plus reaches up
-    QVERIFY(out.pixelColor(20, 13).lightness() < 100);
-    QVERIFY(in != rendered("tool_Zoom_In", true));
-    QVERIFY(out != rendered("tool_Zoom_Out", true));
+    ViewerFixture viewer;
+    const QTemporaryDir empty;
+    viewer.window->showGallery(empty.path());
+    checkPage(viewer.page(), 2);
 }
 
 QTEST_MAIN(TestAppearance)
