@@ -53,10 +53,11 @@ QImage checkMark()
 // Grounds, as nine patches: the style sheet stretches what lies inside their edge.
 
 const QColor fieldColor(15, 18, 22);
+const QColor edgeColor(83, 96, 112);
 const QColor cardColor(104, 117, 131); // white keeps 4.5 to 1 on it
 const QColor lightGroundColor(162, 172, 183); // the widget's colour of disabled text keeps 4.5 to 1
 
-/// A box of 7 x 7 pixels whose edge is one pixel wide and rounded.
+/// A box of 7 x 7 pixels, whose edge is one pixel wide and rounded.
 QImage box(const QColor& ground, const QColor& edge)
 {
     constexpr int side = 7;
@@ -69,17 +70,29 @@ QImage box(const QColor& ground, const QColor& edge)
     return image;
 }
 
+QImage button()
+{
+    return box(QColor(54, 65, 78), edgeColor);
+}
+
+QImage buttonHover()
+{
+    return box(QColor(66, 80, 97), accentColor);
+}
+
+QImage buttonPressed()
+{
+    return box(QColor(38, 119, 131), accentColor);
+}
+
 QImage card()
 {
-    constexpr int side = 3; // the edge alone: a wider one would take room from the controls
-    QImage image = skinCanvas(side, side);
-    image.fill(cardColor);
-    return image;
+    return box(cardColor, cardColor);
 }
 
 QImage field()
 {
-    return box(fieldColor, QColor(83, 96, 112));
+    return box(fieldColor, edgeColor);
 }
 
 QImage fieldHover()
@@ -104,6 +117,9 @@ QVector<SkinImage> controlGlyphs()
         { "arrow_right.png", arrowRight },
         { "check_mark.png", checkMark },
         { "card.png", card },
+        { "button.png", button },
+        { "button_hover.png", buttonHover },
+        { "button_pressed.png", buttonPressed },
         { "field.png", field },
         { "field_hover.png", fieldHover },
         { "field_disabled.png", fieldDisabled },

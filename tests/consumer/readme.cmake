@@ -3,7 +3,6 @@
 cmake_minimum_required(VERSION 3.25)
 file(REMOVE_RECURSE "${FOLDER}")
 file(READ "${README}" text)
-string(REPLACE ";" "\\;" text "${text}")
 string(REGEX MATCH "```cpp\n(#include <cvkintensitywidget.h>[^`]*)```" block "${text}")
 file(WRITE "${FOLDER}/main.cpp" "${CMAKE_MATCH_1}")
 string(REGEX MATCH "```cmake\n(cmake_minimum_required[^`]*)```" block "${text}")

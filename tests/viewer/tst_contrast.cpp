@@ -20,6 +20,12 @@ namespace {
 
 constexpr double least = 4.5; // for text of ordinary size, after WCAG 2.1, success criterion 1.4.3
 
+// The library fixes the colour of disabled text, rgb(60, 60, 60), whose luminance is 0.0452. Labels
+// and boxes share their ground with enabled ones, whose white text keeps 4.5 on it: at most 1.05
+// / 4.5 / 0.0952 = 2.45 is left. Fields and buttons have a ground of their own.
+constexpr double leastOfDisabledLabels = 2.3;
+constexpr double leastOfDisabledFields = 4.5;
+
 /// Contrast of the text in `area`: the colour that covers most of it is the ground, the one that
 /// differs most from it the text. Anti-aliased strokes make the result rather too small.
 double textContrast(const QImage& window, const QRect& area)
@@ -72,8 +78,17 @@ QRect textArea(const QWidget* widget)
 
 } // namespace
 
-/// Every text of the window can be read: measured on what is painted, skins included. Disabled
-/// controls of the panel are left out; the library fixes their colour.
+/// What the text of this control has to reach.
+double leastFor(const QWidget* widget)
+{
+    if (widget->isEnabled()) {
+        return least;
+    }
+    const bool sharesItsGround = widget->inherits("QLabel") || widget->inherits("QCheckBox");
+    return sharesItsGround ? leastOfDisabledLabels : leastOfDisabledFields;
+}
+
+/// Every text of the window can be read: measured on what is painted, skins included.
 class TestContrast : public QObject
 {
     Q_OBJECT
@@ -125,13 +140,13 @@ void TestContrast::checkWindow(int atLeast)
     for (const QWidget* widget : m_viewer->window->findChildren<QWidget*>()) {
         const QRect area = textArea(widget);
         const bool isCovered = widget->visibleRegion().isEmpty();
-        if (area.isEmpty() || isCovered || !widget->isEnabled()) {
+        if (area.isEmpty() || isCovered) {
             continue;
         }
         const QRect shown = area & widget->visibleRegion().boundingRect();
         const QPoint corner = widget->mapTo(m_viewer->window.get(), shown.topLeft());
         const double ratio = textContrast(picture, QRect(corner, shown.size()));
-        QVERIFY2(ratio >= least,
+        QVERIFY2(ratio >= leastFor(widget),
             qPrintable(QString("%1 %2: %3")
                            .arg(widget->metaObject()->className(), widget->objectName())
                            .arg(ratio)));
@@ -189,14 +204,14 @@ void TestContrast::image()
 {
     QVERIFY(m_viewer->window->openFile(m_viewer->path("frame 1.raw")));
     QTest::mouseClick(m_viewer->control<QAbstractButton>("pushButtonAdd"), Qt::LeftButton);
-    checkWindow(30);
+    checkWindow(40);
 }
 
 void TestContrast::chart()
 {
     QVERIFY(m_viewer->window->openFile(m_viewer->path("frame 1.raw")));
     m_viewer->action("actionRowChart")->trigger();
-    checkWindow(25);
+    checkWindow(35);
 }
 
 void TestContrast::help()
