@@ -1,13 +1,13 @@
 #include "vkintensityhost.h"
 
 #include "focusring.h"
+#include "hoststyle.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QFont>
 #include <QPalette>
 #include <QScreen>
-#include <QStyleFactory>
 
 /// Makes the linker keep the images, which nothing else in a static library asks for. The macro
 /// belongs outside of every namespace.
@@ -48,7 +48,7 @@ void applyLook(const QString& ownRules)
     if (!qApp) {
         return;
     }
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new HostStyle);
     QApplication::setPalette(darkPalette());
     QFont font = QApplication::font();
     font.setPixelSize(scaledForScreen(13)); // platforms disagree about the default size

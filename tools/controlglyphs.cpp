@@ -57,16 +57,24 @@ const QColor edgeColor(83, 96, 112);
 const QColor cardColor(104, 117, 131); // white keeps 4.5 to 1 on it
 const QColor lightGroundColor(162, 172, 183); // the widget's colour of disabled text keeps 4.5 to 1
 
-/// A box of 7 x 7 pixels, whose edge is one pixel wide and rounded.
+/// A box with an edge of one pixel and softened corners, which are three pixels wide and one high:
+/// a higher edge would take room from the controls.
 QImage box(const QColor& ground, const QColor& edge)
 {
-    constexpr int side = 7;
-    QImage image = skinCanvas(side, side);
+    QImage image = skinCanvas(7, 3);
+    image.fill(edge);
     QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(edge, 1.0));
-    painter.setBrush(ground);
-    painter.drawRoundedRect(QRectF(0.5, 0.5, side - 1.0, side - 1.0), 2.5, 2.5);
+    painter.fillRect(1, 1, 5, 1, ground);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    QColor corner = edge;
+    for (const int y : { 0, 2 }) {
+        corner.setAlpha(40);
+        painter.fillRect(0, y, 1, 1, corner);
+        painter.fillRect(6, y, 1, 1, corner);
+        corner.setAlpha(190);
+        painter.fillRect(1, y, 1, 1, corner);
+        painter.fillRect(5, y, 1, 1, corner);
+    }
     return image;
 }
 

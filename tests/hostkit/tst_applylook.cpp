@@ -12,6 +12,7 @@
 #include <QPixmap>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QStyle>
 #include <QtTest>
 
@@ -31,7 +32,8 @@ private Q_SLOTS:
     void everySkinImageIsFound_data();
     void everySkinImageIsFound();
     void everyImageOfTheStyleSheetIsFound();
-    void scaledForScreen_at96();
+    void scaledForScreen_followsTheScreen();
+    void controls_lieInsideTheirModules();
 
     void zoomButtons_areVisible();
     void zoomButtons_letThePictureThrough();
@@ -50,6 +52,11 @@ private:
 namespace {
 
 constexpr QRgb disabledText = qRgb(60, 60, 60); // set by the widget
+
+double dotsPerInch()
+{
+    return QGuiApplication::primaryScreen()->logicalDotsPerInch();
+}
 
 /// The colour that covers most of the picture.
 QRgb groundOf(const QImage& picture)
@@ -102,7 +109,8 @@ void TestApplyLook::application_hasStylePaletteAndFont()
 {
     QVERIFY(QApplication::palette().color(QPalette::Window).lightness() < 60);
     QVERIFY(QApplication::palette().color(QPalette::WindowText).lightness() > 200);
-    QCOMPARE(QApplication::font().pixelSize(), 13); // platforms differ in their own default
+    // platforms differ in their own default
+    QCOMPARE(QApplication::font().pixelSize(), dotsPerInch() == 144.0 ? 19 : 13);
 }
 
 void TestApplyLook::ownRules_comeAfterThoseOfTheKit()
@@ -148,10 +156,34 @@ void TestApplyLook::everyImageOfTheStyleSheetIsFound()
     QVERIFY(found >= 6);
 }
 
-void TestApplyLook::scaledForScreen_at96()
+void TestApplyLook::scaledForScreen_followsTheScreen()
 {
-    QCOMPARE(vkintensityhost::scaledForScreen(290), 290);
+    const bool isDense = dotsPerInch() == 144.0;
+    QVERIFY(isDense || dotsPerInch() == 96.0);
+    QCOMPARE(vkintensityhost::scaledForScreen(290), isDense ? 435 : 290);
+    QCOMPARE(vkintensityhost::scaledForScreen(13), isDense ? 19 : 13); // 19.5
     QCOMPARE(vkintensityhost::scaledForScreen(0), 0);
+}
+
+/// The modules do not grow with the screen, and neither do the distances in them.
+void TestApplyLook::controls_lieInsideTheirModules()
+{
+    int checked = 0;
+    for (QWidget* module : m_widget->findChildren<QWidget*>()) {
+        if (!module->inherits("CVKDisplayPreferences") && !module->inherits("CVKDataHistogram")) {
+            continue;
+        }
+        for (const QWidget* control : module->findChildren<QWidget*>()) {
+            const bool isMeant
+                = control->objectName() != "verticalLayoutWidget"; // stays behind empty
+            if (isMeant && control->isVisible() && !control->size().isEmpty()) {
+                const QRect place(control->mapTo(module, QPoint()), control->size());
+                QVERIFY2(module->rect().contains(place), qPrintable(control->objectName()));
+                ++checked;
+            }
+        }
+    }
+    QVERIFY(checked > 40);
 }
 
 void TestApplyLook::zoomButtons_areVisible()
