@@ -31,6 +31,14 @@ bool isInModule(const QWidget* widget)
     return false;
 }
 
+/// What the style scales by.
+double styleDotsPerInch()
+{
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    const bool isFixed = QCoreApplication::testAttribute(Qt::AA_Use96Dpi);
+    return screen && !isFixed ? screen->logicalDotsPerInch() : 96.0;
+}
+
 } // namespace
 
 HostStyle::HostStyle()
@@ -42,11 +50,10 @@ int HostStyle::pixelMetric(
     PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     const int pixels = QProxyStyle::pixelMetric(metric, option, widget);
-    const QScreen* const screen = QGuiApplication::primaryScreen();
-    if (pixels <= 0 || !screen || !isDistance(metric) || !isInModule(widget)) {
-        return pixels;
+    if (pixels <= 0 || !isDistance(metric) || !isInModule(widget)) {
+        return pixels; // below 0: there is no such distance
     }
-    return qRound(pixels * 96.0 / screen->logicalDotsPerInch());
+    return qRound(pixels * 96.0 / styleDotsPerInch());
 }
 
 } // namespace vkintensityhost
