@@ -1,4 +1,5 @@
 #include <cvkintensitywidget.h>
+#include <vkintensityhost.h>
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -37,8 +38,7 @@ public:
     /// The next frame; its samples last until the next call.
     CVKIntensityWidget::Frame next()
     {
-        // The gradient is the same in every row, so another first row is other noise.
-        const size_t firstRow = m_random() % spareRows;
+        const size_t firstRow = m_random() % spareRows; // other noise, and the same gradient
         std::copy_n(m_background.begin() + firstRow * side, m_frame.size(), m_frame.begin());
         m_angle += 0.02;
         addSpot(int((side - spotSide) * (0.5 + 0.5 * std::cos(m_angle))),
@@ -69,8 +69,9 @@ int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
     const int lastFrame = QApplication::arguments().value(1).toInt();
+    vkintensityhost::applyLook();
     QMainWindow window;
-    auto* intensity = new CVKIntensityWidget(&window);
+    auto* intensity = new CVKIntensityWidget; // without a parent that Return would call
     window.setCentralWidget(intensity);
     window.resize(1280, 800);
     window.show();
@@ -83,7 +84,6 @@ int main(int argc, char* argv[])
     QElapsedTimer clock;
     clock.start();
     QTimer timer;
-    timer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer, &QTimer::timeout, intensity, [&] {
         if (!intensity->updateFrame(scene.next()) || ++count == lastFrame) {
             QApplication::exit(count == lastFrame ? 0 : 1);

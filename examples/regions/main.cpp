@@ -1,4 +1,5 @@
 #include <cvkintensitywidget.h>
+#include <vkintensityhost.h>
 
 #include <QApplication>
 #include <QMainWindow>
@@ -21,15 +22,15 @@ public:
     }
 };
 
-// Usage: regions IMAGE [PICTURE]
-// Shows IMAGE with two regions and prints their numbers, then each pixel that the cross-hair is
-// moved to; with PICTURE, saves the window to that file and quits.
+// Usage: regions IMAGE [PICTURE]; with PICTURE, saves the window to that file and quits.
+// Prints the numbers of two regions, and each pixel that the cross-hair is moved to.
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
+    vkintensityhost::applyLook();
     QMainWindow window;
-    auto* intensity = new CVKIntensityWidget(&window);
+    auto* intensity = new CVKIntensityWidget; // without a parent that Return would call
     window.setCentralWidget(intensity);
     window.resize(1280, 800);
     window.show();
