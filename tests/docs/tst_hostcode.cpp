@@ -26,6 +26,7 @@ private Q_SLOTS:
     void initTestCase();
     void cleanup();
 
+    void look_hasARuleForEachBlankControl();
     void window_readsFaithfully();
     void returnButton_callsTheSlotOfTheParent();
     void layingOutOnce_bringsTheReadoutIntoTheCanvas();
@@ -66,6 +67,18 @@ private:
     QString m_styleSheet;
 };
 
+/// Without the images of the host kit, as in a program that does not link it. The macros belong
+/// outside of every namespace.
+static void removeSkinImages()
+{
+    Q_CLEANUP_RESOURCE(vkintensityhost);
+}
+
+static void restoreSkinImages()
+{
+    Q_INIT_RESOURCE(vkintensityhost);
+}
+
 namespace {
 
 constexpr int frameWidth = 640; // as in the page's frame
@@ -103,6 +116,16 @@ std::unique_ptr<CVKIntensityWidget> rampWidget(int base = 1000)
 QGraphicsView* canvasOf(const QWidget& widget)
 {
     return widget.findChild<QGraphicsView*>();
+}
+
+const QGraphicsTextItem* readoutOf(const QWidget& widget)
+{
+    for (const QGraphicsItem* item : canvasOf(widget)->scene()->items()) {
+        if (item->type() == QGraphicsTextItem::Type) {
+            return static_cast<const QGraphicsTextItem*>(item);
+        }
+    }
+    return nullptr;
 }
 
 QPushButton* button(const QWidget& widget, const char* name)
@@ -180,6 +203,14 @@ void TestHostCode::cleanup()
     qApp->setStyleSheet(QString());
 }
 
+void TestHostCode::look_hasARuleForEachBlankControl()
+{
+    snippets::build_1(nullptr);
+    for (const char* name : { "tool_Zoom_In", "tool_Zoom_Out", "left_flex1", "bar_ModuleWidget" }) {
+        QVERIFY2(qApp->styleSheet().contains(QString("#%1").arg(name)), name);
+    }
+}
+
 void TestHostCode::window_readsFaithfully()
 {
     MainWindow window;
@@ -207,19 +238,15 @@ void TestHostCode::returnButton_callsTheSlotOfTheParent()
 void TestHostCode::layingOutOnce_bringsTheReadoutIntoTheCanvas()
 {
     const auto intensity = rampWidget();
-    snippets::create_load_close_1(intensity.get());
-    QCOMPARE(intensity->size(), QSize(1000, 700));
-    const QGraphicsView* canvas = canvasOf(*intensity);
-    const QGraphicsTextItem* readout = nullptr;
-    for (const QGraphicsItem* item : canvas->scene()->items()) {
-        readout = item->type() == QGraphicsTextItem::Type
-            ? static_cast<const QGraphicsTextItem*>(item)
-            : readout;
-    }
+    const QGraphicsTextItem* readout = readoutOf(*intensity);
     QVERIFY(readout);
     QCOMPARE(readout->toPlainText().count('\n'), 1);
+    const double placedForOneLine = readout->y();
+    snippets::create_load_close_1(intensity.get());
+    QCOMPARE(intensity->size(), QSize(1000, 700));
+    QVERIFY(readout->y() < placedForOneLine);
     const double bottom = readout->sceneBoundingRect().bottom();
-    QVERIFY2(bottom <= canvas->height(), qPrintable(QString::number(bottom)));
+    QVERIFY2(bottom <= canvasOf(*intensity)->height(), qPrintable(QString::number(bottom)));
 }
 
 void TestHostCode::asStored_closingBeforeEachLoadKeepsOneConnection()
@@ -349,8 +376,10 @@ void TestHostCode::size_leavesRoomForTheChart()
 
 void TestHostCode::styleSheet_paintsCanvasAndColumn()
 {
+    removeSkinImages();
     qApp->setStyleSheet(m_styleSheet);
     const auto intensity = shownWidget();
+    restoreSkinImages();
     snippets::a_look_of_your_own_1(intensity.get());
     const QImage picture = intensity->grab().toImage();
     QCOMPARE(QColor(picture.pixel(700, 350)).name(), QString("#1a1f26"));
