@@ -15,9 +15,10 @@
 ///     QApplication application(argc, argv);
 ///     vkintensityhost::applyLook();
 ///     auto* intensity = new CVKIntensityWidget; // deletes itself when it is closed
+///     intensity->setReading(CVKIntensityWidget::Reading::Faithful);
+///     intensity->loadImage(application.arguments().value(1));
 ///     intensity->resize(1280, 800);
 ///     intensity->show();
-///     intensity->loadImage(application.arguments().value(1));
 ///     return application.exec();
 /// }
 /// \endcode

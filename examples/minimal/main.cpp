@@ -12,14 +12,15 @@ int main(int argc, char* argv[])
     const QStringList arguments = QApplication::arguments();
     vkintensityhost::applyLook();
     QMainWindow window;
-    auto* intensity = new CVKIntensityWidget(&window);
+    auto* intensity = new CVKIntensityWidget;
     window.setCentralWidget(intensity);
-    window.resize(1280, 800);
-    window.show();
+    intensity->setReading(CVKIntensityWidget::Reading::Faithful);
     if (!intensity->loadImage(arguments.value(1))) {
         qWarning("The image cannot be shown.");
         return 1;
     }
+    window.resize(1280, 800);
+    window.show();
     if (arguments.size() > 2) {
         return window.grab().save(arguments.at(2)) ? 0 : 1;
     }

@@ -242,6 +242,14 @@ void HistogramData::fillRoiHistogram(const Sample* samples, const RoiRows& rows)
     });
 }
 
+void HistogramData::clearLines()
+{
+    for (PixelMemory* const memory : { &m_verticalMemory, &m_horizontalMemory }) {
+        memory->markWritten(memory->size()); // `data` is open to every writer
+        memory->zeroFrom(0);
+    }
+}
+
 uint* HistogramData::roiBins(uint wantedMin, uint wantedMax) const
 {
     return wantedMin == roiMin && wantedMax == roiMax ? roiHistogram : nullptr;

@@ -80,6 +80,9 @@ public:
     void extractVerticalLine(int x, int offset, int count);
     void extractVerticalLine(int x); ///< the whole column
 
+    /// Makes every entry of both line buffers 0.
+    void clearLines();
+
     /// The ROI counts when they are those of the values min..max, else null.
     uint* roiBins(uint min, uint max) const;
 

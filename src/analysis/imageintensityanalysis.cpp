@@ -56,17 +56,36 @@ void ImageIntensityAnalysis::setImageData(ImageData* newImage)
     convertToDisplay();
 }
 
-void ImageIntensityAnalysis::refreshImageData()
+void ImageIntensityAnalysis::refreshImageData(const QPoint& newAnchor, const QRect& newDrawRect)
 {
     if (!hasImage()) {
         return;
     }
+    anchor = newAnchor;
+    drawRect = newDrawRect;
+    m_loadColors.reset();
     histogram.calcHistogram();
     Q_EMIT newHistogramSize(int(histogram.size));
-    if (hasImage()) { // a receiver may have closed it
+    if (!hasImage()) {
+        return; // a receiver has closed it
+    }
+    if (displayBuffer && displayImage) {
+        *displayImage = imageOverDisplayBuffer();
+    }
+    if (canConvert()) {
         convertToDisplay();
+    } else {
+        showNothing();
     }
     updateLines();
+}
+
+/// Black pixels and lines of level 0, as a fresh image without levels has them.
+void ImageIntensityAnalysis::showNothing()
+{
+    m_displayMemory.zeroFrom(0);
+    histogram.clearLines();
+    Q_EMIT updateImage();
 }
 
 void ImageIntensityAnalysis::createDisplayImage()
@@ -89,14 +108,18 @@ void ImageIntensityAnalysis::createDisplayImage()
     displayBuffer = m_displayMemory.data();
     m_displayPixels = image->pixelCount;
     m_displayMemory.zeroFrom(canConvert() ? size_t(m_displayPixels) * 3 : 0);
+    *displayImage = imageOverDisplayBuffer();
+}
+
+QImage ImageIntensityAnalysis::imageOverDisplayBuffer() const
+{
     if (m_areRowsPacked && image->width <= std::numeric_limits<int>::max() / 3) {
-        *displayImage = QImage(
+        return QImage(
             displayBuffer, image->width, image->height, 3 * image->width, QImage::Format_RGB888);
-        return;
     }
     // Deliberate: this constructor takes rows as padded to four bytes, while the conversion writes
     // them packed; the two agree for widths that are a multiple of four.
-    *displayImage = QImage(displayBuffer, image->width, image->height, QImage::Format_RGB888);
+    return QImage(displayBuffer, image->width, image->height, QImage::Format_RGB888);
 }
 
 bool ImageIntensityAnalysis::canConvert() const

@@ -55,8 +55,9 @@ public:
     void setImageData(ImageData* image);
 
     /// The pixels of the image have new values, in the same size and depth: analyzes and renders
-    /// them, and sends the lines through the anchor. Without an image nothing happens.
-    void refreshImageData();
+    /// them, and sends the lines through `newAnchor` with the part `newDrawRect`. Rows of the
+    /// display image are taken as setDisplayRowsPacked() says. Without an image nothing happens.
+    void refreshImageData(const QPoint& newAnchor, const QRect& newDrawRect);
 
     /// Whether display images to come take their rows as packed as they are written, which shows
     /// every width rightly. False at first: rows are then taken as padded to four bytes.
@@ -101,6 +102,8 @@ private:
     void resetTables();
     bool hasImage() const;
     void createDisplayImage();
+    QImage imageOverDisplayBuffer() const;
+    void showNothing();
     bool canConvert() const;
     void convertToDisplay();
     LevelColors levelColors() const;

@@ -226,12 +226,18 @@ void ImageLayoutItem::placeAnchor(const QPoint& pixel)
         return;
     }
     const QPointer<ImageLayoutItem> self(this);
+    const uint placedImage = m_imagesSet;
     anchor = pixel;
-    moveCross();
+    const QRectF visible = movedToPixel(drawRect, pixel);
+    if (visible == drawRect) {
+        moveCross();
+    }
     if (self) {
         Q_EMIT changeAnchorImagePosition(anchor);
     }
-    if (self) {
+    if (self && visible != drawRect && m_imagesSet == placedImage) {
+        showView(visible);
+    } else if (self) {
         update(); // the cross is drawn outside its own bounding rectangle
     }
 }

@@ -47,7 +47,8 @@ public:
     /// happens.
     void resetAnchor();
 
-    /// Puts the anchor on an image pixel and announces it. Without an image nothing happens.
+    /// Puts the anchor on a pixel of the image, scrolls as far as needed to show it, and announces
+    /// it. Without an image nothing happens.
     void placeAnchor(const QPoint& pixel);
 
     /// The whole image in item units, which starts left of and above the item when it is zoomed

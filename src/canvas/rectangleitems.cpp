@@ -195,12 +195,16 @@ void RectangleItems::selectItem(int index)
     }
     const QPointer<RectangleItems> self(this);
     const QPointer<RectangleItem> selected(items.at(index));
-    const QVector<RectangleItem*> present = items; // the scene announces each change
-    for (RectangleItem* const item : present) {
-        if (!self || !items.contains(item)) {
-            continue;
+    QVector<QPointer<RectangleItem>> marked; // the scene announces each change
+    for (RectangleItem* const item : qAsConst(items)) {
+        if (item->isSelected()) {
+            marked.append(item);
         }
-        item->setSelected(false);
+    }
+    for (const QPointer<RectangleItem>& item : qAsConst(marked)) {
+        if (item) {
+            item->setSelected(false);
+        }
     }
     if (self && selected) {
         selected->setSelected(true);

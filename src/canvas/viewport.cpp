@@ -115,6 +115,17 @@ ScrollStep scrolledSpan(int distance, double scale, int visibleStart, int visibl
     return after;
 }
 
+QRectF movedToPixel(const QRectF& visible, const QPoint& pixel)
+{
+    const auto moved = [](double start, double count, int wanted) {
+        const double last = start + std::max(count, 1.0) - 1.0;
+        return wanted < start ? double(wanted) : start + std::max(wanted - last, 0.0);
+    };
+    return QRectF(QPointF(moved(visible.x(), visible.width(), pixel.x()),
+                      moved(visible.y(), visible.height(), pixel.y())),
+        visible.size());
+}
+
 QPointF mapPointFromImage(const QPointF& pixel, const QRectF& visible, const QSizeF& content)
 {
     if (visible.width() == 0.0 || visible.height() == 0.0) {

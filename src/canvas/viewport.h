@@ -54,6 +54,9 @@ struct ScrollStep
 ScrollStep scrolledSpan(int distance, double scale, int visibleStart, int visibleCount,
     int imageCount, double anchor, double armLength);
 
+/// `visible`, moved by the least whole pixels that bring `pixel` into it; both lie in the image.
+QRectF movedToPixel(const QRectF& visible, const QPoint& pixel);
+
 /// Image pixel to content coordinates, rounded up to whole units; the origin when nothing is
 /// visible.
 QPointF mapPointFromImage(const QPointF& pixel, const QRectF& visible, const QSizeF& content);

@@ -27,8 +27,9 @@ bool isWholeNumber(Sample value)
 {
     if constexpr (std::is_floating_point_v<Sample>) {
         return value >= Sample(0) && value < Sample(4294967296.0) && std::floor(value) == value;
+    } else {
+        return value >= Sample(0);
     }
-    return value >= Sample(0);
 }
 
 template <class Sample>

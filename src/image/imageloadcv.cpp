@@ -17,6 +17,7 @@
 
 #include <cstring>
 #include <exception>
+#include <new>
 #include <vector>
 
 #if CV_VERSION_MAJOR > 4 || (CV_VERSION_MAJOR == 4 && CV_VERSION_MINOR >= 6)

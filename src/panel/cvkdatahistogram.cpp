@@ -105,10 +105,10 @@ void CVKDataHistogram::on_comboBoxRoi_currentIndexChanged(int index)
     Q_EMIT selectRoiItem(index - 1);
 }
 
-void CVKDataHistogram::chooseRegion(int index)
+bool CVKDataHistogram::chooseRegion(int index)
 {
     if (index < -1 || index >= m_form->comboBoxRoi->count() - 1) {
-        return;
+        return false;
     }
     const int row = index + 1; // behind "None Select"
     if (m_form->comboBoxRoi->currentIndex() == row) {
@@ -116,6 +116,7 @@ void CVKDataHistogram::chooseRegion(int index)
     } else {
         m_form->comboBoxRoi->setCurrentIndex(row);
     }
+    return true;
 }
 
 int CVKDataHistogram::chosenRegion() const
@@ -172,6 +173,7 @@ void CVKDataHistogram::newHistogramSize(int size)
 {
     if (size < 1 || size > maxCounts) {
         dropCounts(); // the curve of the last image does not stay under a new one
+        update();
         return;
     }
     if (size != m_size && allocateCounts(size)) {

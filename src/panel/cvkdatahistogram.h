@@ -33,8 +33,8 @@ public:
     void resetRoiList();
 
     /// What the user does at the list of regions: selects region `index`, or "None Select" for -1.
-    /// An entry that is selected already is announced one more time. Other indices: ignored.
-    void chooseRegion(int index);
+    /// An entry that is selected already is announced one more time. False without such an entry.
+    bool chooseRegion(int index);
     int chosenRegion() const; ///< -1 for "None Select"
 
 Q_SIGNALS:

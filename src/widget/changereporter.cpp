@@ -81,7 +81,9 @@ void ChangeReporter::report()
         return;
     }
     if (m_isTelling) {
-        post(); // a listener that always changes something must not keep the call from returning
+        // Told later: a listener that always changes something must not keep the call from
+        // returning.
+        m_isMissed = true;
         return;
     }
     const QPointer<ChangeReporter> self(this);
@@ -94,12 +96,18 @@ void ChangeReporter::report()
     }
     if (self) {
         m_isTelling = false;
+        if (std::exchange(m_isMissed, false)) {
+            post();
+        }
     }
 }
 
 void ChangeReporter::tellDifferences(const WidgetState& before, const WidgetState& now)
 {
     const QPointer<ChangeReporter> self(this);
+    const WeakListener told = m_listener;
+    const auto isSameListener
+        = [&] { return self && !told.owner_before(m_listener) && !m_listener.owner_before(told); };
     const std::pair<bool, Notice> notices[] {
         { before.imageNumber != now.imageNumber, &Listener::imageChanged },
         { viewPart(before) != viewPart(now), &Listener::viewChanged },
@@ -109,7 +117,7 @@ void ChangeReporter::tellDifferences(const WidgetState& before, const WidgetStat
         { !areSettingsSame(before, now), &Listener::settingsChanged },
     };
     for (const auto& [isChanged, notice] : notices) {
-        if (self && isChanged) {
+        if (isChanged && isSameListener()) {
             tell(notice);
         }
     }

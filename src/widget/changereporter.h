@@ -74,4 +74,5 @@ private:
     int m_openCalls = 0;
     bool m_isPosted = false;
     bool m_isTelling = false;
+    bool m_isMissed = false; ///< something may have changed while the listener was told
 };

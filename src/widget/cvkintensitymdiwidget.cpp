@@ -211,7 +211,10 @@ LoadProblem CVKIntensityMdiWidget::updateFrame(const FrameView& frame, const Rea
 {
     const LoadProblem problem = overwriteWithFrame(frame, options, &m_image);
     if (problem == LoadProblem::None) {
-        m_analysis.refreshImageData();
+        // Without levels, as the whole range of 32 bits has none, the engine follows no view.
+        m_analysis.setDisplayRowsPacked(true);
+        m_analysis.refreshImageData(
+            roundedPoint(m_imageItem->anchor), roundedRect(m_imageItem->drawRect));
         updateGrayRange();
         updateReadoutOfView();
     }
@@ -301,7 +304,6 @@ void CVKIntensityMdiWidget::refreshReadout()
     }
 }
 
-/// The read-out of what the visible view shows, without any announcement.
 void CVKIntensityMdiWidget::updateReadoutOfView()
 {
     if (m_displayType == 0) {

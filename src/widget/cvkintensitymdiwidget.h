@@ -63,6 +63,10 @@ public:
     const ProfileChart& rowChart() const { return m_rowChart; }
     const ProfileChart& columnChart() const { return m_columnChart; }
     int displayType() const { return m_displayType; } ///< 0 image view, 1 2D chart
+    int axis() const { return m_axis; } ///< of the chart in the 2D view: 0 row, 1 column
+
+    /// The read-out of what the visible view shows, without any announcement.
+    void updateReadoutOfView();
 
 Q_SIGNALS:
     void updateItemNames(QStringList itemNames); ///< part of the interface; not emitted
@@ -102,7 +106,6 @@ private:
     void layOutCharts(const QSize& canvas);
     void applyDisplayMode();
     void refreshReadout();
-    void updateReadoutOfView();
     void updateReadout(int x, int y);
 
     int m_axis = 0; ///< chart shown in the 2D view: 0 row, 1 column

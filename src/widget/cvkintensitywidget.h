@@ -53,7 +53,7 @@ public:
         AsStored,
         /// The picture that the file holds: exact rows for every width, without alpha; signed and
         /// floating-point samples as long as each is a whole number from 0 to 2^32 - 1. What cannot
-        /// be shown so is refused with its reason. Each load closes the image before it.
+        /// be shown so is refused with its reason. A load that succeeds closes the image before it.
         Faithful
     };
 
@@ -72,7 +72,7 @@ public:
         UnfaithfulValues, ///< faithful reading: a sample is not a whole number from 0 to 2^32 - 1
         UnfaithfulDepth, ///< faithful reading: samples of other than 8, 16 or 32 bits
         UnfaithfulChannels, ///< faithful reading: neither 1 nor 3 channels with or without alpha
-        BadFrame ///< a frame whose description makes no sense
+        BadFrame ///< a frame whose description makes no sense, or that is not the next one
     };
 
     enum class SampleKind { Unsigned, Signed, Floating };
@@ -90,13 +90,15 @@ public:
         quint32 minimum = 0; ///< smallest value of all pixels
         quint32 maximum = 0; ///< largest value of all pixels
         bool isAlphaDropped = false; ///< the file has an alpha channel, which is not shown
-        bool isColorReduced = false; ///< three channels were reduced to grey values
+        bool isColorReduced = false; ///< three channels were reduced to gray values
         bool isTypeConverted = false; ///< signed or floating-point samples became whole numbers
 
         bool isValid() const { return !size.isEmpty(); }
     };
 
-    /// One frame in memory. The samples belong to the caller and are copied during the call.
+    /// One frame in memory. The samples belong to the caller and are copied during the call. Three
+    /// channels are reduced to gray as those of a file are in the same reading: with samples of 32
+    /// bits exactly in faithful reading, modulo 2^32 as stored.
     struct Frame
     {
         const void* samples = nullptr; ///< rows top first; 16 and 32 bits in host byte order
@@ -111,7 +113,7 @@ public:
     enum class Axis { Row, Column };
     enum class Unit { Micrometers, Nanometers };
 
-    /// Wavelengths along the axes.
+    /// Wavelengths along the axes. An axis spans 5 units at least: a shorter one starts lower.
     struct Calibration
     {
         int start = 100; ///< wavelength of pixel 0, 0 to 2000 units
@@ -169,13 +171,16 @@ public:
         Axis axis = Axis::Row;
         int index = 0; ///< the row's y or the column's x
         QVector<quint32> values; ///< from left to right, or from top to bottom
-        QVector<uchar> levels; ///< the same as display levels 0..255, which the charts draw
+        /// The same as display levels 0..255, which the charts draw; empty for an image whose
+        /// values span the full range of 32 bits.
+        QVector<uchar> levels;
         bool isCalibrated = false;
         double start = 0.0; ///< wavelength of the first pixel (of a column: of the bottom one)
         double step = 1.0; ///< wavelength from one pixel to the next
 
         /// Where the axes show `pixel` (x of a row, y of a column): its wavelength, which grows
-        /// upward along a column, or `pixel` itself without a calibration.
+        /// upward along a column. Without a calibration `pixel` itself, while the chart of a column
+        /// counts from the bottom row.
         double position(int pixel) const
         {
             if (!isCalibrated) {
@@ -229,9 +234,10 @@ public:
     /// Loads the image file `path`, picking the reader by its suffix (jpg, jpeg, tif, tiff, bmp,
     /// png, raw; any case), and shows it. False, with everything as it was, for a missing file, an
     /// unknown suffix or data that cannot be read as that format; loadProblem() tells why. A load
-    /// resets the panel: image view, grey palette, pixel numbers, no region selected.
+    /// resets the panel: image view, gray palette, pixel numbers, no region selected.
     /// As stored: close the image before each load, since a load on top of an open image makes
-    /// every connection one more time; and a raw file whose header gives no width or no height
+    /// every connection one more time and keeps the regions, which the panel no longer lists; and a
+    /// raw file whose header gives no width or no height
     /// loads, as an image without pixels: true, and the canvas keeps the last picture.
     bool loadImage(const QString& path);
 
@@ -248,8 +254,8 @@ public:
     void setReading(Reading reading);
     Reading reading() const;
 
-    /// Refuses files and frames of more than `pixels` pixels, before any of them is decoded. 0 or
-    /// less, as at first: no limit.
+    /// Refuses files and frames of more than `pixels` pixels, before any of them is decoded where
+    /// the file's header tells its size. 0 or less, as at first: no limit.
     void setPixelLimit(qint64 pixels);
     qint64 pixelLimit() const; ///< 0: none
 
@@ -259,7 +265,8 @@ public:
 
     /// Shows a frame from memory as loadImage() shows a file, in place of the image that is open.
     /// Rows are exact for every width. False, with everything as it was, for a frame that makes no
-    /// sense, is over the pixel limit or does not fit in memory.
+    /// sense, is over the pixel limit or does not fit in memory; like a load, also false, although
+    /// the frame is shown, when a module of the panel has been closed.
     bool showFrame(const Frame& frame);
 
     /// Shows the next frame of a series: one of the size and the bytes a sample of the image that
@@ -269,12 +276,12 @@ public:
     bool updateFrame(const Frame& frame);
 
     /// Why the last load, showFrame() or updateFrame() returned false; None after one that did not,
-    /// and before any.
+    /// before any, and where a part of the widget has been closed.
     LoadProblem loadProblem() const;
 
     ImageInfo imageInfo() const;
 
-    /// A small grey picture of what faithful reading shows of the file: its values stretched over
+    /// A small gray picture of what faithful reading shows of the file: its values stretched over
     /// black to white, of at most `bounds` pixels, with the file's proportions; smaller images keep
     /// their size. Null for everything that is not read, and for more than `pixelLimit` pixels (0:
     /// no limit). May be called in any thread. `problem`, if given, receives the reason.
@@ -290,20 +297,23 @@ public:
     Axis chartAxis() const;
     bool setChartAxis(Axis axis);
 
-    /// One step of zoom around the cross-hair, as the buttons do. False at the end of the range.
+    /// One step of zoom around the cross-hair, as the buttons do. False at the end of the range,
+    /// while a chart is in front, and in a widget without room for a picture.
     bool zoomIn();
     bool zoomOut();
     bool fit(); ///< shows the whole image
 
     QRect visiblePixels() const; ///< part of the image in the image view
-    double zoomFactor() const; ///< screen units a pixel in the image view; 0 without an image
+    /// Screen units a pixel in the image view; 0 without an image or without room for a picture.
+    double zoomFactor() const;
 
     // --- cross-hair and values
 
     std::optional<QPoint> crossHair() const;
-    bool setCrossHair(const QPoint& pixel); ///< as a click on this pixel
+    /// Moves the cross-hair as a click on this pixel does, and scrolls as far as needed to show it.
+    bool setCrossHair(const QPoint& pixel);
 
-    /// Value of one pixel, as the read-out shows it.
+    /// Value of one pixel, as the read-out shows it; that shows 2^31 and more as negative numbers.
     std::optional<quint32> value(const QPoint& pixel) const;
 
     // --- settings of the panel
@@ -339,14 +349,14 @@ public:
     bool setRegions(const QVector<QRect>& pixels);
     /// Removes a region and selects the first that is left.
     bool removeRegion(int index);
-    /// Shows a region's numbers in the panel and marks it on the canvas; -1 shows those of the
-    /// whole image.
+    /// Shows a region's numbers in the panel and marks it on the canvas, where the image view is in
+    /// front; -1 shows those of the whole image.
     bool selectRegion(int index);
 
     /// The region whose numbers the panel shows; -1 while it shows those of the whole image.
     int selectedRegion() const;
-    /// The region with handles on the canvas; -1 for none. A click on a region marks it without
-    /// selecting it in the panel.
+    /// The region with handles on the canvas; -1 for none, as with a chart in front. A click on a
+    /// region marks it without selecting it in the panel.
     int markedRegion() const;
 
     // --- numbers of any part of the image, without touching the display
@@ -381,6 +391,7 @@ private:
     bool resetPanel();
     void refreshPanel();
     WidgetState state() const;
+    bool zoom(bool isIn);
 
     QString m_applicationDirectory;
     QPixmap m_sparePixmap;

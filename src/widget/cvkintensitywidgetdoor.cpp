@@ -13,11 +13,19 @@
 #include "widget/intensitydoor.h"
 
 #include <algorithm>
+#include <new>
 
 namespace {
 
 /// The names as the door has them, in the order of the panel's buttons.
 const char* const paletteNames[] { "Gray", "Red", "Green", "Blue", "Color" };
+
+bool isTaken(const CVKIntensityWidget::Calibration& calibration)
+{
+    using Unit = CVKIntensityWidget::Unit;
+    return CVKDisplayPreferences::takesWavelength(calibration.start, calibration.pixelWidth)
+        && (calibration.unit == Unit::Micrometers || calibration.unit == Unit::Nanometers);
+}
 
 } // namespace
 
@@ -29,13 +37,14 @@ CVKIntensityWidget::View CVKIntensityWidget::view() const
     if (!host || host->displayType() == 0) {
         return View::Image;
     }
-    return chartAxis() == Axis::Row ? View::RowChart : View::ColumnChart;
+    return host->axis() == 0 ? View::RowChart : View::ColumnChart;
 }
 
 bool CVKIntensityWidget::setView(View view)
 {
     const QPointer<CVKDisplayPreferences> preferences = m_door->preferences();
-    if (!m_door->imageHost() || !preferences) {
+    const bool isKnown = view == View::Image || view == View::RowChart || view == View::ColumnChart;
+    if (!m_door->imageHost() || !preferences || !isKnown) {
         return false;
     }
     const ChangeReporter::Call call(&m_door->changes);
@@ -50,15 +59,15 @@ bool CVKIntensityWidget::setView(View view)
 
 CVKIntensityWidget::Axis CVKIntensityWidget::chartAxis() const
 {
-    const CVKDisplayPreferences* const preferences = m_door->preferences();
-    const bool isColumn = m_door->imageHost() && preferences && preferences->axis() == 1;
-    return isColumn ? Axis::Column : Axis::Row;
+    const CVKIntensityMdiWidget* const host = m_door->imageHost();
+    return host && host->axis() == 1 ? Axis::Column : Axis::Row;
 }
 
 bool CVKIntensityWidget::setChartAxis(Axis axis)
 {
     CVKDisplayPreferences* const preferences = m_door->preferences();
-    if (!m_door->imageHost() || !preferences) {
+    const bool isKnown = axis == Axis::Row || axis == Axis::Column;
+    if (!m_door->imageHost() || !preferences || !isKnown) {
         return false;
     }
     const ChangeReporter::Call call(&m_door->changes);
@@ -68,24 +77,30 @@ bool CVKIntensityWidget::setChartAxis(Axis axis)
 
 bool CVKIntensityWidget::zoomIn()
 {
-    CVKIntensityMdiWidget* const host = m_door->imageHost();
-    if (!host || !(host->imageItem()->maxScale > host->imageItem()->scale)) {
-        return false;
-    }
-    const ChangeReporter::Call call(&m_door->changes);
-    host->imageItem()->zoomIn();
-    return true;
+    return zoom(true);
 }
 
 bool CVKIntensityWidget::zoomOut()
 {
-    CVKIntensityMdiWidget* const host = m_door->imageHost();
-    if (!host || !(host->imageItem()->scale > host->imageItem()->minScale)) {
+    return zoom(false);
+}
+
+/// One step; false when there is none to make, as in a canvas without room for a picture, and while
+/// a chart hides the buttons.
+bool CVKIntensityWidget::zoom(bool isIn)
+{
+    const CVKIntensityMdiWidget* const host = m_door->imageHost();
+    if (!host || host->displayType() != 0) {
         return false;
     }
     const ChangeReporter::Call call(&m_door->changes);
-    host->imageItem()->zoomOut();
-    return true;
+    const double before = zoomFactor();
+    if (isIn) {
+        host->imageItem()->zoomIn();
+    } else {
+        host->imageItem()->zoomOut();
+    }
+    return zoomFactor() != before;
 }
 
 bool CVKIntensityWidget::fit()
@@ -116,17 +131,20 @@ double CVKIntensityWidget::zoomFactor() const
 std::optional<QPoint> CVKIntensityWidget::crossHair() const
 {
     const CVKIntensityMdiWidget* const host = m_door->imageHost();
-    return host ? std::optional<QPoint>(host->analysis()->anchor) : std::nullopt;
+    return host ? std::optional<QPoint>(roundedPoint(host->imageItem()->anchor)) : std::nullopt;
 }
 
 bool CVKIntensityWidget::setCrossHair(const QPoint& pixel)
 {
-    CVKIntensityMdiWidget* const host = m_door->imageHost();
+    const QPointer<CVKIntensityMdiWidget> host = m_door->imageHost();
     if (!host || !isInsideImage(QRect(pixel, pixel), host->image())) {
         return false;
     }
     const ChangeReporter::Call call(&m_door->changes);
     host->imageItem()->placeAnchor(pixel);
+    if (host && host->displayType() != 0) {
+        host->updateReadoutOfView(); // a chart's read-out stays at its own pick
+    }
     return true;
 }
 
@@ -190,8 +208,7 @@ bool CVKIntensityWidget::setCalibration(const std::optional<Calibration>& calibr
     if (!m_door->imageHost() || !preferences) {
         return false;
     }
-    if (calibration
-        && !CVKDisplayPreferences::takesWavelength(calibration->start, calibration->pixelWidth)) {
+    if (calibration && !isTaken(*calibration)) {
         return false;
     }
     const ChangeReporter::Call call(&m_door->changes);
@@ -229,7 +246,7 @@ bool CVKIntensityWidget::setPeakLabels(const PeakLabels& labels)
 // --- regions of interest
 
 QVector<QRect> CVKIntensityWidget::regions() const
-{
+try {
     QVector<QRect> pixels;
     if (const CVKIntensityMdiWidget* const host = m_door->imageHost()) {
         for (const QRectF& rect : host->imageItem()->rectangles.rects) {
@@ -237,10 +254,12 @@ QVector<QRect> CVKIntensityWidget::regions() const
         }
     }
     return pixels;
+} catch (const std::bad_alloc&) {
+    return {};
 }
 
 bool CVKIntensityWidget::addRegion(const QRect& pixels)
-{
+try {
     CVKIntensityMdiWidget* const host = m_door->imageHost();
     if (!host || !isInsideImage(pixels, host->image())) {
         return false;
@@ -248,6 +267,8 @@ bool CVKIntensityWidget::addRegion(const QRect& pixels)
     const ChangeReporter::Call call(&m_door->changes);
     host->imageItem()->rectangles.addPixels(pixels);
     return true;
+} catch (const std::bad_alloc&) {
+    return false;
 }
 
 bool CVKIntensityWidget::setRegion(int index, const QRect& pixels)
@@ -263,7 +284,7 @@ bool CVKIntensityWidget::setRegion(int index, const QRect& pixels)
 }
 
 bool CVKIntensityWidget::setRegions(const QVector<QRect>& pixels)
-{
+try {
     CVKIntensityMdiWidget* const host = m_door->imageHost();
     const auto isInside = [host](const QRect& rect) { return isInsideImage(rect, host->image()); };
     if (!host || !std::all_of(pixels.begin(), pixels.end(), isInside)) {
@@ -272,6 +293,8 @@ bool CVKIntensityWidget::setRegions(const QVector<QRect>& pixels)
     const ChangeReporter::Call call(&m_door->changes);
     host->imageItem()->rectangles.replaceAll(pixels);
     return true;
+} catch (const std::bad_alloc&) {
+    return false;
 }
 
 bool CVKIntensityWidget::removeRegion(int index)
@@ -293,8 +316,7 @@ bool CVKIntensityWidget::selectRegion(int index)
         return false;
     }
     const ChangeReporter::Call call(&m_door->changes);
-    list->chooseRegion(index);
-    return true;
+    return list->chooseRegion(index);
 }
 
 int CVKIntensityWidget::selectedRegion() const

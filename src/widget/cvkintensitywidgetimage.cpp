@@ -11,8 +11,6 @@
 #include "widget/intensitydoor.h"
 #include "widget/preview.h"
 
-#include <utility>
-
 namespace {
 
 // The public types repeat those of the loaders, which know nothing of widgets.
@@ -77,6 +75,7 @@ bool CVKIntensityWidget::loadPage(const QString& path, int page)
 
 bool CVKIntensityWidget::showFile(const QString& path, int page)
 {
+    m_door->problem = ::LoadProblem::None;
     if (!m_host || !m_controlPanel) {
         return false;
     }
@@ -89,7 +88,6 @@ bool CVKIntensityWidget::showFile(const QString& path, int page)
         m_door->problem = report.problem;
         return false;
     }
-    m_door->problem = ::LoadProblem::None;
     m_door->file = path;
     m_door->report = report;
     ++m_door->imageNumber;
@@ -120,6 +118,7 @@ bool CVKIntensityWidget::showFrame(const Frame& frame)
 {
     const ChangeReporter::Call call(&m_door->changes);
     try {
+        m_door->problem = ::LoadProblem::None;
         if (!m_host || !m_controlPanel) {
             return false;
         }
@@ -142,6 +141,7 @@ bool CVKIntensityWidget::updateFrame(const Frame& frame)
 {
     const ChangeReporter::Call call(&m_door->changes);
     try {
+        m_door->problem = ::LoadProblem::None;
         if (!m_host) {
             return false;
         }

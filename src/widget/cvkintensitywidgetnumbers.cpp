@@ -10,8 +10,8 @@
 #include "widget/intensitydoor.h"
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
+#include <new>
 
 namespace {
 

@@ -10,8 +10,8 @@ class CVKDisplayPreferences;
 class CVKIntensityCtrlWidget;
 class CVKIntensityMdiWidget;
 
-/// What stands behind the members that hosts ask and tell the exported widget by: how to read, what
-/// was read, and whom to tell of changes. The parts of the widget may be closed at any time, since
+/// State behind the public members of the exported widget: how to read, what was read, and the
+/// reports of changes. The parts of the widget may be closed at any time, since
 /// all widgets here delete themselves when they are closed.
 class IntensityDoor
 {
@@ -26,8 +26,6 @@ public:
     ReadReport report; ///< about the image that is open
     quint64 imageNumber = 0; ///< counts images and frames shown, and closes
     ChangeReporter changes;
-
-    CVKIntensityMdiWidget* host() const { return m_host; }
 
     /// The host while it has an image; null otherwise.
     CVKIntensityMdiWidget* imageHost() const;

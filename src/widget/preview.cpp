@@ -53,7 +53,7 @@ QImage previewOf(const QString& path, const QSize& bounds, qint64 pixelLimit, Lo
     QImage picture;
     try {
         picture = loadedPreview(path, bounds, pixelLimit, found);
-    } catch (const std::exception&) { // a thread that loads previews has nobody to throw at
+    } catch (...) { // no exception may leave a thread that loads previews
         found = LoadProblem::TooLarge;
     }
     if (problem) {

@@ -29,6 +29,8 @@ private Q_SLOTS:
     void scroll_data();
     void scroll();
     void scroll_atTheLimits();
+    void movedToPixel_takesTheShortestWay_data();
+    void movedToPixel_takesTheShortestWay();
     void pointFromImage_roundsUp();
     void pointFromImage_withoutVisiblePart();
     void pointToImage_truncatesTheOffsetAndRoundsTheOrigin();
@@ -204,6 +206,25 @@ void TestViewport::scroll_atTheLimits()
     QCOMPARE(scrolledSpan(1, 0.5, 0, 400, 400, 200.0, 20.0).origin, 0);
     // View 110 .. 119, narrower than two arms: the near edge pushes to 119, the far one back.
     QVERIFY(scrolledSpan(1, 2.0, 100, 10, 400, 105.0, 20.0).anchor == 110.0);
+}
+
+void TestViewport::movedToPixel_takesTheShortestWay_data()
+{
+    QTest::addColumn<QPoint>("pixel");
+    QTest::addColumn<QPointF>("origin");
+    QTest::newRow("first visible pixel") << QPoint(10, 20) << QPointF(10.0, 20.0);
+    QTest::newRow("last visible pixel") << QPoint(14, 23) << QPointF(10.0, 20.0);
+    QTest::newRow("one behind") << QPoint(15, 24) << QPointF(11.0, 21.0);
+    QTest::newRow("one before") << QPoint(9, 19) << QPointF(9.0, 19.0);
+    QTest::newRow("left and below") << QPoint(0, 99) << QPointF(0.0, 96.0);
+}
+
+void TestViewport::movedToPixel_takesTheShortestWay()
+{
+    QFETCH(QPoint, pixel);
+    QFETCH(QPointF, origin);
+    const QRectF moved = movedToPixel(QRectF(10.0, 20.0, 5.0, 4.0), pixel);
+    QCOMPARE(moved, QRectF(origin, QSizeF(5.0, 4.0)));
 }
 
 void TestViewport::pointFromImage_roundsUp()

@@ -132,8 +132,14 @@ private Q_SLOTS:
     void view_switchesAsThePanelDoes();
     void chartAxis_canBeChosenWithTheImageInFront();
     void zoom_stepsAndEnds();
+    void zoom_withoutRoomOrWithAChart();
     void crossHair_movesAsAClickDoes();
     void crossHair_outsideIsRefused();
+    void crossHair_scrollsIntoSight();
+    void crossHair_withAChart_isReadOutThere();
+    void settings_thatDoNotExistAreRefused();
+    void regions_leftByALoadAsStored();
+    void view_withoutPreferences();
     void value_isThatOfTheReadout();
 
     void colorPalette_followsThePanel();
@@ -476,6 +482,80 @@ void TestDoor::zoom_stepsAndEnds()
     QVERIFY(m_widget->fit());
     QCOMPARE(m_widget->zoomFactor(), fitting);
     QVERIFY(m_widget->fit()); // twice the same
+}
+
+void TestDoor::zoom_withoutRoomOrWithAChart()
+{
+    Widget unshown;
+    QVERIFY(unshown.loadImage(path("frame.raw")));
+    QVERIFY(!unshown.zoomIn()); // its canvas has no room for a picture
+    QVERIFY(!unshown.zoomOut());
+    QVERIFY(m_widget->setView(Widget::View::RowChart));
+    QVERIFY(!m_widget->zoomIn()); // as the buttons, which a chart hides
+    QVERIFY(!m_widget->zoomOut());
+    QVERIFY(m_widget->setView(Widget::View::Image));
+    QVERIFY(m_widget->zoomIn());
+}
+
+void TestDoor::crossHair_scrollsIntoSight()
+{
+    while (m_widget->zoomFactor() < 12.0) {
+        QVERIFY(m_widget->zoomIn());
+    }
+    QVERIFY(m_widget->setCrossHair(QPoint(0, 0)));
+    const QRect first = m_widget->visiblePixels();
+    QCOMPARE(first.topLeft(), QPoint(0, 0));
+    QVERIFY(m_widget->setCrossHair(first.bottomRight())); // in sight: nothing moves
+    QCOMPARE(m_widget->visiblePixels(), first);
+    QVERIFY(m_widget->setCrossHair(QPoint(399, 150)));
+    QCOMPARE(m_widget->visiblePixels().right(), 399);
+    QCOMPARE(m_widget->visiblePixels().bottom(), 150); // no further than needed
+    QCOMPARE(m_widget->visiblePixels().size(), first.size());
+    const ImageLayoutItem& item = *host()->imageItem();
+    const QSizeF cell(item.size.width() / int(item.size.width() / item.scale),
+        item.size.height() / int(item.size.height() / item.scale));
+    QVERIFY(item.cross.position.x() > item.size.width() - cell.width());
+    QVERIFY(item.cross.position.y() > item.size.height() - cell.height());
+    QCOMPARE(m_widget->crossHair(), std::optional<QPoint>(QPoint(399, 150)));
+}
+
+void TestDoor::crossHair_withAChart_isReadOutThere()
+{
+    QVERIFY(m_widget->setView(Widget::View::ColumnChart));
+    const int pick = host()->columnChart().curve->anchorIndex();
+    QVERIFY(m_widget->setCrossHair(QPoint(30, 40)));
+    // The chart of column 30 counts from the bottom row, and its pick stays.
+    QCOMPARE(readout(), QString("X:30  Y:%1\nData:%2").arg(pick).arg(sampleAt(30, 299 - pick)));
+    QVERIFY(m_widget->setView(Widget::View::RowChart));
+    const int column = host()->rowChart().curve->anchorIndex();
+    QVERIFY(m_widget->setCrossHair(QPoint(31, 41)));
+    QCOMPARE(readout(), QString("X:%1  Y:258\nData:%2").arg(column).arg(sampleAt(column, 41)));
+}
+
+void TestDoor::settings_thatDoNotExistAreRefused()
+{
+    QVERIFY(!m_widget->setView(Widget::View(7)));
+    QVERIFY(!m_widget->setChartAxis(Widget::Axis(5)));
+    QVERIFY(!m_widget->setCalibration(Widget::Calibration { 100, 1, Widget::Unit(9) }));
+    QCOMPARE(m_widget->view(), Widget::View::Image);
+    QVERIFY(!m_widget->calibration());
+}
+
+void TestDoor::regions_leftByALoadAsStored()
+{
+    QVERIFY(m_widget->addRegion(QRect(10, 10, 20, 20)));
+    QVERIFY(m_widget->loadImage(path("frame.raw")));
+    QCOMPARE(m_widget->regions().size(), 1); // still on the canvas
+    QVERIFY(!m_widget->selectRegion(0)); // but not in the panel
+    QVERIFY(m_widget->selectRegion(-1));
+}
+
+void TestDoor::view_withoutPreferences()
+{
+    QVERIFY(m_widget->setView(Widget::View::ColumnChart));
+    delete preferences();
+    QCOMPARE(m_widget->view(), Widget::View::ColumnChart);
+    QCOMPARE(m_widget->chartAxis(), Widget::Axis::Column);
 }
 
 void TestDoor::crossHair_movesAsAClickDoes()

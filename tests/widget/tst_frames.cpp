@@ -185,6 +185,8 @@ private Q_SLOTS:
     void updateFrame_withoutARegion_showsItsHistogram();
     void updateFrame_withAnotherRange();
     void updateFrame_afterAFile();
+    void updateFrame_afterAFileAsStored();
+    void updateFrame_afterAFrameWithoutLevels();
     void updateFrame_tellsTheListenerOnce();
     void frames_withPaddedRows();
     void frames_ofColor();
@@ -337,6 +339,9 @@ void TestFrames::updateFrame_withAnotherRange()
     QVERIFY(widget->showFrame(pattern(2, 2, 1, 4, 3, 9).frame()));
     QVERIFY(widget->updateFrame(full.frame()));
     QCOMPARE(widget->imageInfo().maximum, 0xFFFFFFFFU);
+    const auto fresh = visibleWidget();
+    QVERIFY(fresh->showFrame(full.frame()));
+    compare(shownBy(*widget), shownBy(*fresh)); // black
     QVERIFY(widget->updateFrame(pattern(2, 2, 1, 4, 3, 9).frame()));
     QVERIFY(widget->rowProfile(0).levels.contains(uchar(0)));
 }
@@ -349,6 +354,42 @@ void TestFrames::updateFrame_afterAFile()
     QVERIFY(widget->loadImage(m_folder.filePath("file.raw")));
     QVERIFY(widget->updateFrame(pattern(44, 36, 1, 2, 6, 12).frame()));
     QVERIFY(widget->imageInfo().file.isEmpty());
+}
+
+void TestFrames::updateFrame_afterAFileAsStored()
+{
+    QVERIFY(writeRawFile(m_folder.filePath("odd.raw"), pattern(45, 37, 1, 2, 5, 12).rawFile()));
+    const auto widget = visibleWidget();
+    widget->setReading(Widget::Reading::AsStored); // shown slanted
+    QVERIFY(widget->loadImage(m_folder.filePath("odd.raw")));
+    const TestFrame next = pattern(45, 37, 1, 2, 6, 12);
+    QVERIFY(widget->updateFrame(next.frame()));
+    const auto fresh = visibleWidget();
+    QVERIFY(fresh->showFrame(next.frame()));
+    compare(shownBy(*widget), shownBy(*fresh));
+}
+
+void TestFrames::updateFrame_afterAFrameWithoutLevels()
+{
+    TestFrame full = pattern(45, 37, 1, 4, 3, 9);
+    const quint32 largest = 0xFFFFFFFFU;
+    std::memcpy(full.bytes.data(), &largest, 4);
+    std::memset(full.bytes.data() + 4, 0, 4);
+    const auto widget = visibleWidget();
+    QVERIFY(widget->showFrame(pattern(90, 80, 1, 4, 1, 9).frame()));
+    QVERIFY(widget->setCrossHair(QPoint(80, 70)));
+    QVERIFY(widget->showFrame(full.frame()));
+    QCOMPARE(widget->crossHair(), std::optional<QPoint>(QPoint(22, 36)));
+    QVERIFY(widget->setCrossHair(QPoint(3, 4)));
+    QCOMPARE(widget->crossHair(), std::optional<QPoint>(QPoint(3, 4)));
+    QVERIFY(widget->zoomIn());
+    const TestFrame next = pattern(45, 37, 1, 4, 5, 9);
+    QVERIFY(widget->updateFrame(next.frame()));
+    const auto fresh = visibleWidget();
+    QVERIFY(fresh->showFrame(next.frame()));
+    QVERIFY(fresh->setCrossHair(QPoint(3, 4)));
+    QVERIFY(fresh->zoomIn());
+    compare(shownBy(*widget), shownBy(*fresh));
 }
 
 void TestFrames::updateFrame_tellsTheListenerOnce()
