@@ -60,8 +60,8 @@ DisplaySettings displaySettings(const CVKIntensityWidget& widget)
 QString applySettings(const DisplaySettings& settings, CVKIntensityWidget* widget)
 {
     QString problem = addRegions(settings.regions, widget);
-    if (problem.isEmpty() && settings.selectedRegion >= 0) {
-        widget->selectRegion(settings.selectedRegion);
+    if (problem.isEmpty() && settings.selectedRegion) {
+        widget->selectRegion(*settings.selectedRegion);
     }
     const auto check = [&problem](bool done, const QString& lack) {
         if (!done && problem.isEmpty()) {

@@ -17,7 +17,8 @@ struct DisplaySettings
     std::optional<CVKIntensityWidget::Calibration> calibration;
     QString palette; ///< one of CVKIntensityWidget::colorPalettes(); empty: as it is
     QVector<QRect> regions; ///< to be added; image pixels, the origin at the top left
-    int selectedRegion = -1; ///< to be selected in the end; -1: the one that was added last
+    std::optional<int> selectedRegion; ///< to be selected in the end, -1 for none; otherwise the
+                                       ///< one that was added last
 
     bool isEmpty() const;
 };

@@ -35,6 +35,8 @@ void ImagePage::createWidget()
     m_widget = new CVKIntensityWidget(this); // its panel looks for the slot in its parent
     m_widget->setReading(CVKIntensityWidget::Reading::Faithful);
     m_widget->setListener(this);
+    m_markedRegion = -1;
+    m_selectedRegion = -1;
     layout()->addWidget(m_widget);
     m_widget->show();
     layout()->activate(); // a load asks for the size at once

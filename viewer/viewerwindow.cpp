@@ -1,7 +1,6 @@
 #include "viewerwindow.h"
 
 #include "appearance.h"
-#include "displaysettings.h"
 #include "filedrop.h"
 #include "gallerypage.h"
 #include "helpoverlay.h"
@@ -189,6 +188,7 @@ bool ViewerWindow::openFile(const QString& path)
     const QFileInfo file(path);
     m_folder = file.absolutePath();
     m_file = file.absoluteFilePath();
+    m_settingsToKeep = DisplaySettings();
     m_watch.watch(m_file); // before the load, which could miss the end of it
     const bool loaded = loadIntoPage(m_file);
     m_status->hideProgress();
@@ -385,13 +385,17 @@ void ViewerWindow::followFile()
 /// Opens the file and shows it as it was shown.
 void ViewerWindow::reloadImage()
 {
-    const DisplaySettings settings = displaySettings(*m_imagePage->intensityWidget());
+    const bool isShown = m_pages->currentWidget() == m_imagePage;
+    const DisplaySettings settings
+        = isShown ? displaySettings(*m_imagePage->intensityWidget()) : m_settingsToKeep;
     const QPointer<QWidget> focused = focusWidget();
     if (openFile(m_file)) {
         const QString problem = applySettings(settings);
         if (!problem.isEmpty()) {
             m_status->showMessage(tr("Not all is as before: %1.").arg(problem));
         }
+    } else {
+        m_settingsToKeep = settings; // the file may be good again after its next change
     }
     if (focused && focused->isVisible()) {
         focused->setFocus();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "displaysettings.h"
 #include "filewatch.h"
 #include "sessionstore.h"
 
@@ -16,7 +17,6 @@ class QStackedWidget;
 class StatusLine;
 class ViewerMenu;
 class WelcomePage;
-struct DisplaySettings;
 
 /// The program's window: one image at a time in an intensity widget, the gallery of a folder, or a
 /// page in their place.
@@ -133,4 +133,5 @@ private:
     QString m_folder; // of the file last opened, or the one of the gallery; empty before any
     QString m_file; // last opened; absolute
     QString m_pictureFolder; // where a screenshot was saved; empty before any
+    DisplaySettings m_settingsToKeep; // of an image whose reload has failed
 };

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void everything_comesBack();
     void chart_behindTheImageComesBack();
     void selection_comesBack();
+    void noSelection_comesBack();
     void badNumbers_areProblems_data();
     void badNumbers_areProblems();
     void withoutAnImage();
@@ -173,6 +174,17 @@ void TestDisplaySettings::selection_comesBack()
     QVERIFY(applySettings(taken, m_widget.get()).isEmpty());
     QCOMPARE(m_widget->regions().size(), 2);
     QCOMPARE(m_widget->selectedRegion(), 0);
+}
+
+void TestDisplaySettings::noSelection_comesBack()
+{
+    QVERIFY(m_widget->setRegions({ QRect(0, 0, 10, 10), QRect(20, 20, 10, 10) }));
+    QVERIFY(m_widget->selectRegion(-1));
+    const DisplaySettings taken = displaySettings(*m_widget);
+    load(1000, 800);
+    QVERIFY(applySettings(taken, m_widget.get()).isEmpty());
+    QCOMPARE(m_widget->regions().size(), 2);
+    QCOMPARE(m_widget->selectedRegion(), -1);
 }
 
 void TestDisplaySettings::badNumbers_areProblems_data()

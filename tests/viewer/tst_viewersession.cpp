@@ -38,6 +38,7 @@ private Q_SLOTS:
     void session_isNotTouchedWithoutSettings();
     void watch_reloadsAChangedFile();
     void watch_keepsRegions();
+    void watch_keepsRegionsOverABrokenFile();
     void watch_waitsForTheMouseButton();
     void watch_mendsAProblem();
     void watch_leavesTheGalleryAlone();
@@ -217,6 +218,22 @@ void TestViewerSession::watch_keepsRegions()
         m_viewer->status("statusImageSize"), QString::fromUtf8("100 × 48 pixels   16 bit"));
     QCOMPARE(m_viewer->intensity()->regions(), QVector<QRect> { QRect(5, 6, 7, 8) });
     QVERIFY(m_viewer->window->statusBar()->currentMessage().isEmpty());
+}
+
+/// A file may be read while it is half written.
+void TestViewerSession::watch_keepsRegionsOverABrokenFile()
+{
+    QVERIFY(m_viewer->window->openFile(m_viewer->path("frame 1.raw")));
+    QVERIFY(m_viewer->intensity()->addRegion(QRect(5, 6, 7, 8)));
+    QFile file(m_viewer->path("frame 1.raw"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("half of it");
+    file.close();
+    QTRY_VERIFY(!m_viewer->window->problem().isEmpty());
+    m_viewer->writeFrame("frame 1.raw", 100);
+    QTRY_COMPARE(
+        m_viewer->status("statusImageSize"), QString::fromUtf8("100 × 48 pixels   16 bit"));
+    QCOMPARE(m_viewer->intensity()->regions(), QVector<QRect> { QRect(5, 6, 7, 8) });
 }
 
 /// Nothing is replaced under a button that is held down.

@@ -486,10 +486,13 @@ void TestDoor::zoom_stepsAndEnds()
 
 void TestDoor::zoom_withoutRoomOrWithAChart()
 {
-    Widget unshown;
-    QVERIFY(unshown.loadImage(path("frame.raw")));
-    QVERIFY(!unshown.zoomIn()); // its canvas has no room for a picture
-    QVERIFY(!unshown.zoomOut());
+    m_widget->resize(700, 150); // 220 units are kept clear of the picture
+    QCoreApplication::processEvents();
+    QVERIFY(m_widget->zoomFactor() == 0.0);
+    QVERIFY(!m_widget->zoomIn());
+    QVERIFY(!m_widget->zoomOut());
+    m_widget->resize(1280, 800);
+    QCoreApplication::processEvents();
     QVERIFY(m_widget->setView(Widget::View::RowChart));
     QVERIFY(!m_widget->zoomIn()); // as the buttons, which a chart hides
     QVERIFY(!m_widget->zoomOut());

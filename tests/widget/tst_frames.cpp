@@ -341,7 +341,11 @@ void TestFrames::updateFrame_withAnotherRange()
     QCOMPARE(widget->imageInfo().maximum, 0xFFFFFFFFU);
     const auto fresh = visibleWidget();
     QVERIFY(fresh->showFrame(full.frame()));
-    compare(shownBy(*widget), shownBy(*fresh)); // black
+    const Shown black = shownBy(*widget);
+    QCOMPARE(black.display, shownBy(*fresh).display);
+    QCOMPARE(black.display.pixelColor(1, 0), QColor(Qt::black));
+    QCOMPARE(black.readout, shownBy(*fresh).readout);
+    QCOMPARE(black.bottomStrip.first().y1(), black.bottomStrip.last().y2()); // level 0
     QVERIFY(widget->updateFrame(pattern(2, 2, 1, 4, 3, 9).frame()));
     QVERIFY(widget->rowProfile(0).levels.contains(uchar(0)));
 }
