@@ -9,6 +9,7 @@
 #include <QHash>
 #include <QResizeEvent>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVector>
 
 #include <iterator>
@@ -85,6 +86,17 @@ void WidgetAccess::prepare()
     }
     nameControls();
     orderControls();
+    keepPanelInPlace();
+}
+
+/// Beside its scroll bar the panel is a little wider than its column. Bringing a control into
+/// sight, as the focus does, scrolls it up and down only.
+void WidgetAccess::keepPanelInPlace()
+{
+    auto* panel = m_widget->findChild<QScrollArea*>(panelName);
+    if (QScrollBar* bar = panel ? panel->horizontalScrollBar() : nullptr) {
+        QObject::connect(bar, &QScrollBar::valueChanged, bar, [bar] { bar->setValue(0); });
+    }
 }
 
 /// The wheel over a box scrolls the column; it would else change settings that happen to come by

@@ -29,6 +29,7 @@ public:
     void releaseReturnButton();
 
 private:
+    void keepPanelInPlace();
     void scrollInsteadOfChoosing();
     void nameControls();
     void orderControls();

@@ -13,7 +13,7 @@ if(count LESS 8 OR count GREATER 16)
     message(SEND_ERROR "The program has ${count} lines")
 endif()
 
-string(REPLACE "," ";" options "${OPTIONS}")
+string(REPLACE "|" ";" options "${OPTIONS}")
 set(run COMMAND_ERROR_IS_FATAL ANY)
 execute_process(COMMAND "${CMAKE_COMMAND}" -G "${GENERATOR}" -S "${FOLDER}" -B "${FOLDER}/build"
     ${options} "-DCMAKE_INSTALL_RPATH=${PREFIX}/${LIBDIR}" ${run})

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void layOutCanvas_keepsTheReadoutInside();
     void layOutCanvas_movesNothingElse();
     void showStatistics_scrollsThePanel();
+    void panel_doesNotMoveSideways();
     void showStatistics_leavesAFoldedPartAlone();
     void returnButton_comesBackUp();
     void withoutAWidget_nothingHappens();
@@ -148,6 +149,14 @@ void TestWidgetAccess::showStatistics_scrollsThePanel()
         const QRect place(child->mapTo(panel->viewport(), QPoint()), child->size());
         QVERIFY2(sight.contains(place), name);
     }
+}
+
+void TestWidgetAccess::panel_doesNotMoveSideways()
+{
+    auto* panel = control<QScrollArea>("Scroll_ModuleWidget");
+    QVERIFY(panel->horizontalScrollBar()->maximum() > 0); // wider than what is seen of it
+    panel->ensureWidgetVisible(control<QWidget>("left_flex1"), 300, 0);
+    QCOMPARE(panel->horizontalScrollBar()->value(), 0);
 }
 
 void TestWidgetAccess::showStatistics_leavesAFoldedPartAlone()
