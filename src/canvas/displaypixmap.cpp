@@ -1,5 +1,6 @@
 #include "canvas/displaypixmap.h"
 
+#include "canvas/rgbwords.h"
 #include "image/pixelmemory.h"
 
 #include <QImage>
@@ -61,6 +62,31 @@ void drawPiece(QPainter& painter, const QRectF& target, const QImage& image, con
     painter.drawImage(place, piece, part.translated(-origin));
 }
 
+/// Writes the pixels of `image` into those of `pixmap`, which has its size, without a painter,
+/// which converts them in small pieces and copies each a second time. False, with nothing written,
+/// where the platform does not keep the pixels of a pixmap as an image.
+bool overwritePixels(const QImage& image, QPixmap& pixmap)
+{
+    if (image.format() != QImage::Format_RGB888) {
+        return false;
+    }
+    {
+        // Gives the pixmap a new cache key, and pixels that no copy of it and no image taken from
+        // it shares.
+        const QPainter detaching(&pixmap);
+    }
+    const QImage pixels = pixmap.toImage(); // the same memory
+    if (pixels.format() != QImage::Format_RGB32
+        || pixels.constBits() != pixmap.toImage().constBits()) {
+        return false;
+    }
+    for (int y = 0; y < image.height(); ++y) {
+        widenToRgbWords(
+            image.constScanLine(y), image.width(), const_cast<uchar*>(pixels.constScanLine(y)));
+    }
+    return true;
+}
+
 } // namespace
 
 void copyToPixmap(const QImage& image, QPixmap& pixmap)
@@ -74,6 +100,9 @@ void copyToPixmap(const QImage& image, QPixmap& pixmap)
         if (pixmap.isNull()) {
             return;
         }
+    }
+    if (overwritePixels(image, pixmap)) {
+        return;
     }
     QPainter painter(&pixmap);
     painter.setCompositionMode(QPainter::CompositionMode_Source);

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void copies();
     void paintsOverAPixmapOfTheSameSize();
     void leavesSharedCopiesAlone();
+    void leavesImagesTakenFromItAlone();
     void takesTransparentImagesAsTheyAre();
     void drawsAPart();
     void drawsImagesLongerThanThePainterCounts_data();
@@ -86,6 +87,17 @@ void TestDisplayPixmap::leavesSharedCopiesAlone()
     const QPixmap kept = pixmap;
     copyToPixmap(colourful(40, 30, 777), pixmap);
     QCOMPARE(kept.toImage(), QPixmap::fromImage(first).toImage());
+}
+
+void TestDisplayPixmap::leavesImagesTakenFromItAlone()
+{
+    QPixmap pixmap;
+    const QImage first = colourful(40, 30);
+    copyToPixmap(first, pixmap);
+    const QImage taken = pixmap.toImage(); // shares the pixels
+    copyToPixmap(colourful(40, 30, 777), pixmap);
+    QCOMPARE(taken, QPixmap::fromImage(first).toImage());
+    QCOMPARE(pixmap.toImage(), QPixmap::fromImage(colourful(40, 30, 777)).toImage());
 }
 
 void TestDisplayPixmap::takesTransparentImagesAsTheyAre()
