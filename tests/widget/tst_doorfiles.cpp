@@ -87,6 +87,8 @@ private Q_SLOTS:
     void loadPage_showsOnePage();
     void loadPage_refusesOthers();
     void imageInfo_tellsWhatWasChanged();
+    void imageInfo_isOfTheLoadedImage_data();
+    void imageInfo_isOfTheLoadedImage();
     void preview_isThatOfFaithfulReading();
     void members_twice_data();
     void members_twice();
@@ -177,6 +179,38 @@ void TestDoorFiles::imageInfo_tellsWhatWasChanged()
     QVERIFY(!m_widget->loadImage(path("half.tif")));
     QCOMPARE(m_widget->loadProblem(), Widget::LoadProblem::UnfaithfulValues);
     QCOMPARE(m_widget->imageInfo().file, path("float.tif"));
+}
+
+void TestDoorFiles::imageInfo_isOfTheLoadedImage_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("bitDepth");
+    for (quint64 orientation = 1; orientation <= 8; ++orientation) {
+        TiffImage image = tiffLine<quint16>({ 500, 600, 700 }, 1, 1);
+        image.further << TiffField { 274, tiffShort, { orientation } };
+        // From 5 on rows of the file are columns of the picture.
+        QTest::addRow("orientation %d", int(orientation))
+            << tiffOf(image) << (orientation < 5 ? QSize(3, 1) : QSize(1, 3)) << 16;
+    }
+    QTest::newRow("BigTIFF") << tiffOf(tiffLine<quint16>({ 1, 2 }, 1, 1), false, true)
+                             << QSize(2, 1) << 16;
+    QTest::newRow("big-endian") << tiffOf(tiffLine<quint8>({ 1, 2 }, 1, 1), true) << QSize(2, 1)
+                                << 8;
+}
+
+/// Size and depth are those of what is shown, whatever the header says.
+void TestDoorFiles::imageInfo_isOfTheLoadedImage()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(QSize, size);
+    QFETCH(int, bitDepth);
+    QVERIFY(writeFile(path("turned.tif"), file));
+    QVERIFY(m_widget->loadImage(path("turned.tif")));
+    QCOMPARE(m_widget->imageInfo().size, size);
+    QCOMPARE(m_widget->imageInfo().bitDepth, bitDepth);
+    QCOMPARE(m_widget->columnProfile(0).values.size(), size.height());
+    QCOMPARE(m_widget->visiblePixels(), QRect(QPoint(0, 0), size));
 }
 
 void TestDoorFiles::preview_isThatOfFaithfulReading()
