@@ -73,12 +73,12 @@ int main(int argc, char* argv[])
     QMainWindow window;
     auto* intensity = new CVKIntensityWidget; // without a parent that Return would call
     window.setCentralWidget(intensity);
-    window.resize(1280, 800);
-    window.show();
     Scene scene;
     if (!intensity->showFrame(scene.next())) {
         return 1;
     }
+    window.resize(1280, 800);
+    window.show();
     intensity->addRegion({ 768, 768, 512, 512 });
     int count = 1, counted = 0;
     QElapsedTimer clock;

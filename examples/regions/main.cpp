@@ -32,13 +32,13 @@ int main(int argc, char* argv[])
     QMainWindow window;
     auto* intensity = new CVKIntensityWidget; // without a parent that Return would call
     window.setCentralWidget(intensity);
-    window.resize(1280, 800);
-    window.show();
     intensity->setReading(CVKIntensityWidget::Reading::Faithful);
     if (!intensity->loadImage(arguments.value(1))) {
         std::fprintf(stderr, "not shown, problem %d\n", int(intensity->loadProblem()));
         return 1;
     }
+    window.resize(1280, 800);
+    window.show();
     CrossHairPrinter printer;
     printer.intensity = intensity;
     intensity->setListener(&printer);
