@@ -76,7 +76,7 @@ void TestBufferOrder::initTestCase()
         [](const volatile void* address, size_t byteCount) { largeBlocks.add(address, byteCount); },
         [](const volatile void* address) { largeBlocks.remove(address); });
 #else
-    QSKIP("only the address sanitizer tells what is allocated");
+    QTest::qSkip("only the address sanitizer tells what is allocated", __FILE__, __LINE__);
 #endif
 }
 

@@ -42,7 +42,7 @@ public:
         m_file = isBigEndian ? "MM" : "II";
         m_file += number(isBig ? 43 : 42, 2);
         m_file += isBig ? number(8, 2) + number(0, 2) : QByteArray();
-        m_linkOffset = m_file.size();
+        m_linkOffset = int(m_file.size());
         m_file += number(0, offsetBytes());
     }
 

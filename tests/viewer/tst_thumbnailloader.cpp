@@ -110,7 +110,7 @@ void TestThumbnailLoader::brokenFiles_areAnnouncedAsNull_data()
     for (const int length : { 20, 90, 150 }) {
         QTest::addRow("cut off after %d bytes", length) << jpeg.left(length);
     }
-    const int frame = jpeg.indexOf("\xff\xc0"); // marker, length, bits a sample
+    const int frame = int(jpeg.indexOf("\xff\xc0")); // marker, length, bits a sample
     QVERIFY(frame > 0 && jpeg.at(frame + 4) == 8);
     QByteArray twelve = jpeg;
     twelve[frame + 4] = 12;
