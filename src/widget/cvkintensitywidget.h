@@ -75,6 +75,7 @@ public:
         BadFrame ///< a frame whose description makes no sense, or that is not the next one
     };
 
+    /// What the samples of a file are.
     enum class SampleKind { Unsigned, Signed, Floating };
 
     /// What is loaded.
@@ -93,7 +94,7 @@ public:
         bool isColorReduced = false; ///< three channels were reduced to gray values
         bool isTypeConverted = false; ///< signed or floating-point samples became whole numbers
 
-        bool isValid() const { return !size.isEmpty(); }
+        bool isValid() const { return !size.isEmpty(); } ///< an image is open
     };
 
     /// One frame in memory. The samples belong to the caller and are copied during the call. Three
@@ -109,8 +110,13 @@ public:
         qint64 bytesPerLine = 0; ///< from row to row; 0: rows without padding
     };
 
+    /// What the canvas shows.
     enum class View { Image, RowChart, ColumnChart };
+
+    /// Direction of a profile or a chart.
     enum class Axis { Row, Column };
+
+    /// Unit of wavelengths.
     enum class Unit { Micrometers, Nanometers };
 
     /// Wavelengths along the axes. An axis spans 5 units at least: a shorter one starts lower.
@@ -118,25 +124,29 @@ public:
     {
         int start = 100; ///< wavelength of pixel 0, 0 to 2000 units
         int pixelWidth = 1; ///< wavelength from one pixel to the next, 1 to 100 units
-        Unit unit = Unit::Micrometers;
+        Unit unit = Unit::Micrometers; ///< of both
 
+        /// The same numbers in the same unit.
         bool operator==(const Calibration& other) const
         {
             return start == other.start && pixelWidth == other.pixelWidth && unit == other.unit;
         }
+        /// Any difference.
         bool operator!=(const Calibration& other) const { return !(*this == other); }
     };
 
     /// Peak labels of both charts.
     struct PeakLabels
     {
-        bool areShown = false;
+        bool areShown = false; ///< in the charts
         int count = 10; ///< how many of the strongest peaks are labelled, 1 to 200
 
+        /// Both settings are the same.
         bool operator==(const PeakLabels& other) const
         {
             return areShown == other.areShown && count == other.count;
         }
+        /// Any difference.
         bool operator!=(const PeakLabels& other) const { return !(*this == other); }
     };
 
@@ -144,16 +154,16 @@ public:
     struct Statistics
     {
         QRect rect; ///< the pixels; empty when there are no statistics
-        qint64 pixels = 0;
-        double mean = 0.0;
-        quint32 minimum = 0;
-        quint32 maximum = 0;
+        qint64 pixels = 0; ///< how many
+        double mean = 0.0; ///< of their values
+        quint32 minimum = 0; ///< smallest value
+        quint32 maximum = 0; ///< largest value
         double deviation = 0.0; ///< of the population: divided by the number of pixels
         /// mean / deviation; NaN for a deviation of 0, where the panel keeps showing the ratio of
         /// the region before.
         double signalToNoise = 0.0;
 
-        bool isValid() const { return pixels > 0; }
+        bool isValid() const { return pixels > 0; } ///< there are statistics
     };
 
     /// Counts of consecutive values.
@@ -162,19 +172,19 @@ public:
         quint32 first = 0; ///< the smallest value; counts[i] pixels have the value first + i
         QVector<quint32> counts; ///< up to the largest value; empty for more than 2^26 values
 
-        bool isValid() const { return !counts.isEmpty(); }
+        bool isValid() const { return !counts.isEmpty(); } ///< there are counts
     };
 
     /// One row or column of pixels.
     struct Profile
     {
-        Axis axis = Axis::Row;
+        Axis axis = Axis::Row; ///< which of both it is
         int index = 0; ///< the row's y or the column's x
         QVector<quint32> values; ///< from left to right, or from top to bottom
         /// The same as display levels 0..255, which the charts draw; empty for an image whose
         /// values span the full range of 32 bits.
         QVector<uchar> levels;
-        bool isCalibrated = false;
+        bool isCalibrated = false; ///< the axes show wavelengths
         double start = 0.0; ///< wavelength of the first pixel (of a column: of the bottom one)
         double step = 1.0; ///< wavelength from one pixel to the next
 
@@ -189,15 +199,16 @@ public:
             return (axis == Axis::Row ? pixel : int(values.size()) - 1 - pixel) * step + start;
         }
 
-        bool isValid() const { return !values.isEmpty(); }
+        bool isValid() const { return !values.isEmpty(); } ///< there is such a row or column
     };
 
+    /// One peak of a profile.
     struct Peak
     {
         int rank = 0; ///< from 1, the strongest
         int pixel = 0; ///< x in a row, y in a column
         double position = 0.0; ///< Profile::position() of the pixel
-        quint32 value = 0;
+        quint32 value = 0; ///< of the pixel
     };
 
     /// Is told of changes, whether made by the user or by calls, each once and when the widget is
@@ -252,7 +263,7 @@ public:
 
     /// For the loads to come; Reading::AsStored at first.
     void setReading(Reading reading);
-    Reading reading() const;
+    Reading reading() const; ///< as set last
 
     /// Refuses files and frames of more than `pixels` pixels, before any of them is decoded where
     /// the file's header tells its size. 0 or less, as at first: no limit.
@@ -279,7 +290,7 @@ public:
     /// before any, and where a part of the widget has been closed.
     LoadProblem loadProblem() const;
 
-    ImageInfo imageInfo() const;
+    ImageInfo imageInfo() const; ///< of the image that is open
 
     /// A small gray picture of what faithful reading shows of the file: its values stretched over
     /// black to white, of at most `bounds` pixels, with the file's proportions; smaller images keep
@@ -291,16 +302,16 @@ public:
     // --- view
 
     View view() const; ///< View::Image without an image
-    bool setView(View view);
+    bool setView(View view); ///< false for a value that is none of the three
 
     /// The chart that "2D" shows, also while the image is in front.
     Axis chartAxis() const;
-    bool setChartAxis(Axis axis);
+    bool setChartAxis(Axis axis); ///< false for a value that is neither
 
     /// One step of zoom around the cross-hair, as the buttons do. False at the end of the range,
     /// while a chart is in front, and in a widget without room for a picture.
     bool zoomIn();
-    bool zoomOut();
+    bool zoomOut(); ///< one step back, likewise
     bool fit(); ///< shows the whole image
 
     QRect visiblePixels() const; ///< part of the image in the image view
@@ -309,7 +320,7 @@ public:
 
     // --- cross-hair and values
 
-    std::optional<QPoint> crossHair() const;
+    std::optional<QPoint> crossHair() const; ///< pixel that it marks
     /// Moves the cross-hair as a click on this pixel does, and scrolls as far as needed to show it.
     bool setCrossHair(const QPoint& pixel);
 
@@ -320,7 +331,7 @@ public:
 
     /// "Gray", "Red", "Green", "Blue", "Color".
     static QStringList colorPalettes();
-    QString colorPalette() const;
+    QString colorPalette() const; ///< the one that colors the image
     /// False, and nothing changes, for another name and without the palette's file.
     bool setColorPalette(const QString& name);
 
@@ -329,7 +340,7 @@ public:
     /// Nothing goes back to pixel numbers. False for numbers that the panel's fields do not take.
     bool setCalibration(const std::optional<Calibration>& calibration);
 
-    PeakLabels peakLabels() const;
+    PeakLabels peakLabels() const; ///< as the charts have them
     /// False for a count outside 1 to 200. Both charts have the same labels, also while the image
     /// is in front.
     bool setPeakLabels(const PeakLabels& labels);
@@ -363,9 +374,9 @@ public:
 
     /// Of a rectangle of pixels inside the image.
     Statistics statistics(const QRect& pixels) const;
-    Histogram histogram(const QRect& pixels) const;
-    Profile rowProfile(int y) const;
-    Profile columnProfile(int x) const;
+    Histogram histogram(const QRect& pixels) const; ///< of such a rectangle
+    Profile rowProfile(int y) const; ///< of one row
+    Profile columnProfile(int x) const; ///< of one column
     /// The `count` strongest peaks of a profile of this widget, as the chart labels them.
     QVector<Peak> peaks(const Profile& profile, int count) const;
 
