@@ -291,13 +291,29 @@ QRectF ImageLayoutItem::mapRectToImage(const QRectF& r) const
     return roiFromPixels(topLeft, bottomRight, image->size());
 }
 
-void ImageLayoutItem::mousePressEvent(QGraphicsSceneMouseEvent* event)
+/// Where clicks mark a pixel, in item units.
+QRectF ImageLayoutItem::sensitiveArea() const
 {
     const qreal border = borderWidth;
-    const QRectF sensitive(border, border, size.width() - border, size.height() - border);
-    if (event->buttons() == Qt::LeftButton && sensitive.contains(event->pos())) {
+    return QRectF(border, border, size.width() - border, size.height() - border);
+}
+
+std::optional<QPoint> ImageLayoutItem::pixelAt(const QPointF& position) const
+{
+    if (!hasImage() || size.isEmpty() || !sensitiveArea().contains(position)) {
+        return std::nullopt;
+    }
+    const QPointF point
+        = snappedToPixel(position, scale, size) - QPointF(borderWidth, borderWidth);
+    const QPoint pixel = mapPointToImage(point, drawRect, size);
+    return image->rect().contains(pixel) ? std::optional<QPoint>(pixel) : std::nullopt;
+}
+
+void ImageLayoutItem::mousePressEvent(QGraphicsSceneMouseEvent* event)
+{
+    if (event->buttons() == Qt::LeftButton && sensitiveArea().contains(event->pos())) {
         const QPointF position = snappedToPixel(event->pos(), scale, size);
-        anchor = imagePixelAt(position - QPointF(border, border));
+        anchor = imagePixelAt(position - QPointF(borderWidth, borderWidth));
         const QPointer<ImageLayoutItem> self(this);
         placeCross(position);
         if (self) {

@@ -9,6 +9,8 @@
 #include <QMutex>
 #include <QPixmap>
 
+#include <optional>
+
 class QImage;
 
 /// Shows the display image, lets the user zoom it in steps, scroll it and place the anchor with
@@ -61,6 +63,10 @@ public:
     /// Item units to whole image pixels; null without an image.
     QRectF mapRectToImage(const QRectF& r) const;
 
+    /// Image pixel shown at `position` (item units), the one that a click there marks; nothing
+    /// beside the picture and without an image.
+    std::optional<QPoint> pixelAt(const QPointF& position) const;
+
     void setGeometry(const QRectF& rect) override;
     QSizeF sizeHint(Qt::SizeHint which, const QSizeF& constraint = QSizeF()) const override;
 
@@ -99,6 +105,7 @@ private:
     void scroll(int distance, Qt::Orientation orientation);
     void moveCross();
     void placeCross(const QPointF& position);
+    QRectF sensitiveArea() const;
     QPointF imagePixelAt(const QPointF& point) const;
     void showView(const QRectF& visible);
 

@@ -257,6 +257,15 @@ void CVKIntensityMdiWidget::closeImage()
     m_image.release();
 }
 
+std::optional<QPoint> CVKIntensityMdiWidget::pixelAt(const QPoint& position) const
+{
+    if (!m_image.isLoaded() || m_displayType != 0) {
+        return std::nullopt;
+    }
+    const QPointF scenePoint = m_view->mapToScene(m_view->viewport()->mapFrom(this, position));
+    return m_imageItem->pixelAt(m_imageItem->mapFromScene(scenePoint));
+}
+
 void CVKIntensityMdiWidget::updateGrayRange()
 {
     m_grayRuler->changedShowValueRange(

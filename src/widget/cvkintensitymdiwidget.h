@@ -11,6 +11,8 @@
 #include <QVector>
 #include <QWidget>
 
+#include <optional>
+
 class GradientColorLayoutItem;
 class ImageLayoutItem;
 class IntensityCurveHorizontal;
@@ -64,6 +66,10 @@ public:
     const ProfileChart& columnChart() const { return m_columnChart; }
     int displayType() const { return m_displayType; } ///< 0 image view, 1 2D chart
     int axis() const { return m_axis; } ///< of the chart in the 2D view: 0 row, 1 column
+
+    /// Image pixel shown at `position` of this widget; nothing beside the picture, while a chart is
+    /// in front, and without an image.
+    std::optional<QPoint> pixelAt(const QPoint& position) const;
 
     /// The read-out of what the visible view shows, without any announcement.
     void updateReadoutOfView();

@@ -315,6 +315,12 @@ public:
     bool fit(); ///< shows the whole image
 
     QRect visiblePixels() const; ///< part of the image in the image view
+    /// Pixel shown at a position in this widget, the one that a click there marks; nothing beside
+    /// the picture, while a chart is in front, and without an image.
+    std::optional<QPoint> pixelAt(const QPoint& position) const;
+    /// The image as it is colored, one pixel a pixel, without cross-hair and regions; null without
+    /// an image and when the memory is not there. A copy of three bytes a pixel.
+    QImage picture() const;
     /// Screen units a pixel in the image view; 0 without an image or without room for a picture.
     double zoomFactor() const;
 

@@ -120,6 +120,19 @@ QRect CVKIntensityWidget::visiblePixels() const
     return host ? roundedRect(host->imageItem()->drawRect) : QRect();
 }
 
+std::optional<QPoint> CVKIntensityWidget::pixelAt(const QPoint& position) const
+{
+    const CVKIntensityMdiWidget* const host = m_door->imageHost();
+    return host ? host->pixelAt(host->mapFrom(this, position)) : std::nullopt;
+}
+
+QImage CVKIntensityWidget::picture() const
+{
+    const CVKIntensityMdiWidget* const host = m_door->imageHost();
+    const QImage* const image = host ? host->imageItem()->image : nullptr;
+    return image ? image->copy() : QImage();
+}
+
 double CVKIntensityWidget::zoomFactor() const
 {
     const CVKIntensityMdiWidget* const host = m_door->imageHost();

@@ -135,6 +135,9 @@ private Q_SLOTS:
     void zoom_withoutRoomOrWithAChart();
     void crossHair_movesAsAClickDoes();
     void crossHair_outsideIsRefused();
+    void pixelAt_isThePixelThatAClickMarks();
+    void pixelAt_besideThePictureIsNothing();
+    void picture_isTheColoredImage();
     void crossHair_scrollsIntoSight();
     void crossHair_withAChart_isReadOutThere();
     void settings_thatDoNotExistAreRefused();
@@ -498,6 +501,66 @@ void TestDoor::zoom_withoutRoomOrWithAChart()
     QVERIFY(!m_widget->zoomOut());
     QVERIFY(m_widget->setView(Widget::View::Image));
     QVERIFY(m_widget->zoomIn());
+}
+
+void TestDoor::pixelAt_isThePixelThatAClickMarks()
+{
+    auto* const view = host()->findChild<QGraphicsView*>();
+    const auto check = [&](const QPointF& fraction) {
+        const ImageLayoutItem& item = *host()->imageItem();
+        const QPoint inView = view->mapFromScene(item.mapToScene(
+            item.size.width() * fraction.x(), item.size.height() * fraction.y()));
+        const std::optional<QPoint> pixel
+            = m_widget->pixelAt(view->viewport()->mapTo(m_widget.get(), inView));
+        QVERIFY(pixel);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, inView);
+        QCOMPARE(*pixel, *m_widget->crossHair());
+    };
+    check(QPointF(0.25, 0.75));
+    check(QPointF(0.9, 0.1));
+    while (m_widget->zoomFactor() < 12.0) { // from 10 on positions snap
+        QVERIFY(m_widget->zoomIn());
+    }
+    check(QPointF(0.4, 0.6));
+}
+
+void TestDoor::pixelAt_besideThePictureIsNothing()
+{
+    QVERIFY(!m_widget->pixelAt(QPoint(-1, -1)));
+    QVERIFY(!m_widget->pixelAt(QPoint(0, 0))); // the rulers' corner
+    QVERIFY(!m_widget->pixelAt(m_widget->rect().center() + QPoint(100000, 0)));
+    auto* const view = host()->findChild<QGraphicsView*>();
+    const ImageLayoutItem& item = *host()->imageItem();
+    const QPoint inside = view->viewport()->mapTo(m_widget.get(),
+        view->mapFromScene(item.mapToScene(QRectF(QPointF(), item.size).center())));
+    QVERIFY(m_widget->pixelAt(inside));
+    QVERIFY(m_widget->setView(Widget::View::RowChart));
+    QVERIFY(!m_widget->pixelAt(inside));
+    QVERIFY(m_widget->setView(Widget::View::Image));
+    m_widget->closeImage();
+    QVERIFY(!m_widget->pixelAt(inside));
+}
+
+void TestDoor::picture_isTheColoredImage()
+{
+    const uchar rows[2][8] { { 0, 1, 2, 3, 4, 5, 6, 255 }, { 7, 8, 9, 100, 101, 102, 103, 104 } };
+    Widget::Frame frame;
+    frame.samples = rows;
+    frame.width = 8;
+    frame.height = 2;
+    QVERIFY(m_widget->showFrame(frame));
+    QVERIFY(m_widget->addRegion(QRect(1, 0, 4, 2))); // not part of the picture
+    const QImage picture = m_widget->picture();
+    QCOMPARE(picture.size(), QSize(8, 2));
+    for (int y = 0; y < 2; ++y) {
+        for (int x = 0; x < 8; ++x) {
+            const int level = rows[y][x]; // the values span all levels
+            QCOMPARE(picture.pixel(x, y), qRgb(level, level, level));
+        }
+    }
+    m_widget->closeImage();
+    QVERIFY(m_widget->picture().isNull());
+    QCOMPARE(picture.pixel(7, 0), qRgb(255, 255, 255)); // a copy
 }
 
 void TestDoor::crossHair_scrollsIntoSight()
