@@ -303,8 +303,7 @@ std::optional<QPoint> ImageLayoutItem::pixelAt(const QPointF& position) const
     if (!hasImage() || size.isEmpty() || !sensitiveArea().contains(position)) {
         return std::nullopt;
     }
-    const QPointF point
-        = snappedToPixel(position, scale, size) - QPointF(borderWidth, borderWidth);
+    const QPointF point = snappedToPixel(position, scale, size) - QPointF(borderWidth, borderWidth);
     const QPoint pixel = mapPointToImage(point, drawRect, size);
     return image->rect().contains(pixel) ? std::optional<QPoint>(pixel) : std::nullopt;
 }

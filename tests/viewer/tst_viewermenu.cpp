@@ -4,6 +4,7 @@
 #include "helpoverlay.h"
 #include "imagepage.h"
 #include "pages.h"
+#include "support/nextdialog.h"
 #include "viewerfixture.h"
 
 #include <QApplication>
@@ -101,7 +102,6 @@ private Q_SLOTS:
 private:
     void press(const char* keys);
     QStringList entries(int menu) const;
-    void chooseName(const QString& path);
 
     std::unique_ptr<ViewerFixture> m_viewer;
 };
@@ -127,19 +127,6 @@ void TestViewerMenu::press(const char* keys)
 {
     QApplication::setActiveWindow(m_viewer->window.get()); // no window manager does after a dialog
     QTest::keySequence(m_viewer->window.get(), QKeySequence(keys));
-}
-
-/// Types a file name into the dialog that comes up next, and accepts it.
-void TestViewerMenu::chooseName(const QString& path)
-{
-    QTimer::singleShot(dialogMilliseconds, this, [path] {
-        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        QVERIFY(dialog);
-        auto* name = dialog->findChild<QLineEdit*>();
-        name->clear();
-        QTest::keyClicks(name, path);
-        QTest::keyClick(name, Qt::Key_Return);
-    });
 }
 
 QStringList TestViewerMenu::entries(int menu) const
@@ -235,7 +222,7 @@ void TestViewerMenu::everyEntry_byMouse()
 
 void TestViewerMenu::open()
 {
-    chooseName(m_viewer->path("frame 1.raw"));
+    chooseNextFile(this, m_viewer->path("frame 1.raw"));
     press("Ctrl+O");
     QTRY_COMPARE(m_viewer->shownFile(), QString("frame 1.raw"));
 }
@@ -243,7 +230,7 @@ void TestViewerMenu::open()
 void TestViewerMenu::openFolder()
 {
     QTemporaryDir other;
-    chooseName(other.path());
+    chooseNextFile(this, other.path());
     press("Ctrl+Shift+O");
     QTRY_VERIFY(qobject_cast<GalleryPage*>(m_viewer->page()));
     QCOMPARE(qobject_cast<GalleryPage*>(m_viewer->page())->folder(), other.path());
@@ -414,7 +401,7 @@ void TestViewerMenu::deleteKey_belongsToATextField()
 
 void TestViewerMenu::saveScreenshot()
 {
-    chooseName(m_viewer->path("picture")); // the suffix comes by itself
+    chooseNextFile(this, m_viewer->path("picture")); // the suffix comes by itself
     press("Ctrl+S");
     const QImage picture(m_viewer->path("picture.png"));
     QCOMPARE(picture.size(), m_viewer->window->size());
@@ -426,9 +413,7 @@ void TestViewerMenu::saveScreenshot_suggestsNameAndFolder()
     QString name;
     QDir folder;
     const auto cancelNextDialog = [this, &name, &folder] {
-        QTimer::singleShot(dialogMilliseconds, this, [&name, &folder] {
-            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            QVERIFY(dialog);
+        withNextDialog<QFileDialog>(this, [&name, &folder](QFileDialog* dialog) {
             name = dialog->findChild<QLineEdit*>()->text();
             folder = dialog->directory();
             dialog->reject();
@@ -440,7 +425,7 @@ void TestViewerMenu::saveScreenshot_suggestsNameAndFolder()
     QVERIFY(QDir(m_viewer->folder.path()).entryList({ "*.png" }).isEmpty());
 
     QVERIFY(QDir(m_viewer->folder.path()).mkdir("pictures"));
-    chooseName(m_viewer->path("pictures/a.png"));
+    chooseNextFile(this, m_viewer->path("pictures/a.png"));
     press("Ctrl+S");
     QVERIFY(QFile::exists(m_viewer->path("pictures/a.png")));
     m_viewer->window->showGallery(m_viewer->folder.path());
@@ -455,16 +440,12 @@ void TestViewerMenu::saveScreenshot_thatCannotBeWritten()
 {
     // A link into a folder that is not there: the dialog sees a name that is free.
     QVERIFY(QFile::link(m_viewer->path("no such folder/a.png"), m_viewer->path("link.png")));
-    chooseName(m_viewer->path("link.png"));
+    chooseNextFile(this, m_viewer->path("link.png"));
     QStringList titles;
-    QTimer closer; // of the message behind the dialog
-    connect(&closer, &QTimer::timeout, this, [&titles] {
-        if (auto* message = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            titles << message->windowTitle();
-            message->close();
-        }
+    withNextDialog<QMessageBox>(this, [&titles](QMessageBox* message) {
+        titles << message->windowTitle();
+        message->close();
     });
-    closer.start(dialogMilliseconds);
     press("Ctrl+S");
     QCOMPARE(titles, QStringList("Save Screenshot"));
     QVERIFY(m_viewer->window->statusBar()->currentMessage().isEmpty());

@@ -355,6 +355,10 @@ void TestVkviewer::names_inAnyScript()
 
 void TestVkviewer::language_followsTheEnvironment()
 {
+    if (!QByteArray(VKINTENSITY_LANGUAGES).contains("de,zh_CN")) {
+        QTest::qSkip("built without translations", __FILE__, __LINE__);
+        return;
+    }
     QCOMPARE(run({ "--help" }, { { "LC_ALL", "de_DE.UTF-8" } }), 0);
     QVERIFY(m_output.startsWith("Aufruf: vkviewer"));
     QCOMPARE(run({ "--nonsense" }, { { "LC_ALL", "de_DE.UTF-8" } }), 1);

@@ -508,8 +508,8 @@ void TestDoor::pixelAt_isThePixelThatAClickMarks()
     auto* const view = host()->findChild<QGraphicsView*>();
     const auto check = [&](const QPointF& fraction) {
         const ImageLayoutItem& item = *host()->imageItem();
-        const QPoint inView = view->mapFromScene(item.mapToScene(
-            item.size.width() * fraction.x(), item.size.height() * fraction.y()));
+        const QPoint inView = view->mapFromScene(
+            item.mapToScene(item.size.width() * fraction.x(), item.size.height() * fraction.y()));
         const std::optional<QPoint> pixel
             = m_widget->pixelAt(view->viewport()->mapTo(m_widget.get(), inView));
         QVERIFY(pixel);
@@ -531,8 +531,8 @@ void TestDoor::pixelAt_besideThePictureIsNothing()
     QVERIFY(!m_widget->pixelAt(m_widget->rect().center() + QPoint(100000, 0)));
     auto* const view = host()->findChild<QGraphicsView*>();
     const ImageLayoutItem& item = *host()->imageItem();
-    const QPoint inside = view->viewport()->mapTo(m_widget.get(),
-        view->mapFromScene(item.mapToScene(QRectF(QPointF(), item.size).center())));
+    const QPoint inside = view->viewport()->mapTo(
+        m_widget.get(), view->mapFromScene(item.mapToScene(QRectF(QPointF(), item.size).center())));
     QVERIFY(m_widget->pixelAt(inside));
     QVERIFY(m_widget->setView(Widget::View::RowChart));
     QVERIFY(!m_widget->pixelAt(inside));
