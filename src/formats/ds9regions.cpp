@@ -1,0 +1,1 @@
+#include "formats/ds9regions.h"
