@@ -2,7 +2,7 @@
 #include "ratioreporter.h"
 
 #include "plots/intensitycurveaxisitem.h"
-#include "plots/peakdetection.h"
+#include "analysis/peakdetection.h"
 #include "plots/peaklabels.h"
 
 #include <QFontMetricsF>

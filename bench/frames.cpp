@@ -111,15 +111,11 @@ QString rawFilePath(const Frame& frame)
         return path;
     }
     const ImageData& image = frameRecord<ushort>(frame);
-    std::array<char, rawHeaderBytes> header { "VORLAK" };
-    qToLittleEndian(quint16(image.width), header.data() + 12);
-    qToLittleEndian(quint16(image.height), header.data() + 14);
-    header[22] = 1;
-    header[23] = 2;
-    qToLittleEndian(quint32(image.dataSize), header.data() + 32);
+    const RawHeaderBytes header
+        = packedRawHeader({ image.width, image.height, 1, 2, quint32(image.dataSize) });
     QFile file(path);
     if (file.open(QIODevice::WriteOnly)) {
-        file.write(header.data(), rawHeaderBytes);
+        file.write(reinterpret_cast<const char*>(header.data()), rawHeaderBytes);
         file.write(reinterpret_cast<const char*>(image.data), image.dataSize);
     }
     return path;

@@ -3,21 +3,12 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QtEndian>
 
 #include <algorithm>
 #include <limits>
 #include <new>
 
 namespace {
-
-const char signature[] = "VORLAK";
-
-constexpr int widthOffset = 12;
-constexpr int heightOffset = 14;
-constexpr int channelsOffset = 22;
-constexpr int bytesPerChannelOffset = 23;
-constexpr int dataSizeOffset = 32;
 
 /// Opens a regular file for reading: a pipe under the raw suffix would block for ever.
 bool openRegularFile(QFile* file)
@@ -30,7 +21,7 @@ RawFileError readHeader(QFile* file, RawHeader* header)
     if (!openRegularFile(file)) {
         return RawFileError::Unreadable;
     }
-    const bool known = decodeRawHeader(file->read(rawHeaderSize), header);
+    const bool known = decodeRawHeader(file->read(rawHeaderBytes), header);
     return known ? RawFileError::None : RawFileError::NoSignature;
 }
 
@@ -38,12 +29,12 @@ RawFileError readHeader(QFile* file, RawHeader* header)
 bool readPixels(QFile* file, const RawHeader& header, QByteArray* bytes)
 {
     try {
-        bytes->fill('\0', int(pixelByteCount(header)));
+        bytes->fill('\0', int(rawPixelBytes(header)));
     } catch (const std::bad_alloc&) {
         return false;
     }
     const qint64 wanted = std::min(qint64(bytes->size()), qint64(header.dataSize));
-    if (file->seek(rawHeaderSize)) {
+    if (file->seek(rawHeaderBytes)) {
         file->read(bytes->data(), wanted);
     }
     return true;
@@ -74,7 +65,7 @@ QString misfit(const RawFrame& frame)
     if (frame.channels > maxCount || frame.bytesPerChannel > maxCount) {
         return QStringLiteral("the image has too many channels or too deep samples");
     }
-    if (pixelByteCount(headerOf(frame)) != quint64(frame.bytes.size())) {
+    if (rawPixelBytes(headerOf(frame)) != quint64(frame.bytes.size())) {
         return QStringLiteral("the pixel data do not match the size of the image");
     }
     return QString();
@@ -82,41 +73,21 @@ QString misfit(const RawFrame& frame)
 
 } // namespace
 
-quint64 pixelByteCount(const RawHeader& header)
-{
-    // At most 16 + 16 + 8 + 8 bits.
-    return quint64(header.width) * quint64(header.height) * quint64(header.channels)
-        * quint64(header.bytesPerChannel);
-}
-
 QByteArray encodedRawHeader(const RawHeader& header)
 {
-    QByteArray bytes(rawHeaderSize, '\0');
-    bytes.replace(0, int(sizeof signature) - 1, signature);
-    char* const start = bytes.data();
-    qToLittleEndian<quint16>(quint16(header.width), start + widthOffset);
-    qToLittleEndian<quint16>(quint16(header.height), start + heightOffset);
-    start[channelsOffset] = char(header.channels);
-    start[bytesPerChannelOffset] = char(header.bytesPerChannel);
-    qToLittleEndian<quint32>(header.dataSize, start + dataSizeOffset);
-    return bytes;
+    const RawHeaderBytes bytes = packedRawHeader(header);
+    return QByteArray(reinterpret_cast<const char*>(bytes.data()), rawHeaderBytes);
 }
 
 bool decodeRawHeader(const QByteArray& bytes, RawHeader* header)
 {
-    QByteArray padded = bytes.left(rawHeaderSize);
-    padded.append(QByteArray(rawHeaderSize - padded.size(), '\0'));
-    const int textEnd = int(padded.indexOf('\0'));
-    if (!padded.left(textEnd < 0 ? rawHeaderSize : textEnd).contains(signature)) {
-        return false;
+    RawHeaderBytes padded {};
+    std::copy_n(bytes.begin(), std::min(int(bytes.size()), rawHeaderBytes), padded.begin());
+    const std::optional<RawHeader> parsed = parseRawHeader(padded);
+    if (parsed) {
+        *header = *parsed;
     }
-    const char* const start = padded.constData();
-    header->width = qFromLittleEndian<quint16>(start + widthOffset);
-    header->height = qFromLittleEndian<quint16>(start + heightOffset);
-    header->channels = uchar(start[channelsOffset]);
-    header->bytesPerChannel = uchar(start[bytesPerChannelOffset]);
-    header->dataSize = qFromLittleEndian<quint32>(start + dataSizeOffset);
-    return true;
+    return parsed.has_value();
 }
 
 RawFileError readRawHeader(const QString& path, RawHeader* header)
@@ -133,11 +104,11 @@ RawFileError readRawFrame(const QString& path, RawFrame* frame)
     if (error != RawFileError::None) {
         return error;
     }
-    if (pixelByteCount(header) == 0) {
+    if (rawPixelBytes(header) == 0) {
         return RawFileError::NoPixels;
     }
     QByteArray bytes;
-    if (pixelByteCount(header) > rawFrameByteLimit || !readPixels(&file, header, &bytes)) {
+    if (rawPixelBytes(header) > rawFrameByteLimit || !readPixels(&file, header, &bytes)) {
         return RawFileError::TooLarge;
     }
     frame->width = header.width;

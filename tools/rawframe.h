@@ -1,24 +1,12 @@
 #pragma once
 
+#include "image/rawheader.h"
+
 #include <QByteArray>
 #include <QString>
 
-/// The camera's raw format: a header of 1024 bytes, then the samples. Header numbers are
-/// little-endian and unsigned: width (2 bytes at offset 12), height (2 at 14), channels (1 at 22),
-/// bytes per channel (1 at 23), bytes of pixel data (4 at 32). The text before the header's first
-/// zero byte holds the signature. Rows stand top first, channels interleaved, nothing padded.
-
-/// What the header of a raw file says; nothing in it has been compared with the file's length.
-struct RawHeader
-{
-    int width = 0; ///< 0 to 65535, as the height
-    int height = 0;
-    int channels = 0; ///< 0 to 255
-    int bytesPerChannel = 0; ///< 0 to 255
-    quint32 dataSize = 0; ///< bytes of pixel data the writer put into the file
-};
-
-/// One image as plain data, laid out as in the file; samples of 2 and 4 bytes are little-endian.
+/// One image in the camera's raw format, laid out as in the file; samples of 2 and 4 bytes are
+/// little-endian.
 struct RawFrame
 {
     int width = 0;
@@ -36,13 +24,8 @@ enum class RawFileError {
     TooLarge ///< the header promises more than rawFrameByteLimit, or more than memory holds
 };
 
-constexpr int rawHeaderSize = 1024;
-
 /// Longest pixel data that is read into a RawFrame: 1 GiB.
 constexpr quint64 rawFrameByteLimit = quint64(1) << 30;
-
-/// Bytes that the pixels of such a frame take; 0 if any of the four numbers is 0.
-quint64 pixelByteCount(const RawHeader& header);
 
 /// The 1024 header bytes, with the signature in front.
 QByteArray encodedRawHeader(const RawHeader& header);

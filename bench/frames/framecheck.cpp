@@ -1,6 +1,7 @@
 #include "framecheck.h"
 
 #include "frameseries.h"
+#include "image/rawheader.h"
 
 #include <QFile>
 #include <QGraphicsView>
@@ -15,18 +16,15 @@ namespace {
 bool writeRawFile(const QString& path, std::vector<quint16> samples)
 {
     const qint64 pixelBytes = qint64(samples.size()) * 2;
-    std::array<char, 1024> header { "VORLAK" };
-    qToLittleEndian(quint16(FrameSeries::side), header.data() + 12);
-    qToLittleEndian(quint16(FrameSeries::side), header.data() + 14);
-    header[22] = 1;
-    header[23] = 2;
-    qToLittleEndian(quint32(pixelBytes), header.data() + 32);
+    const RawHeaderBytes header
+        = packedRawHeader({ FrameSeries::side, FrameSeries::side, 1, 2, quint32(pixelBytes) });
     for (quint16& sample : samples) {
         sample = qToLittleEndian(sample);
     }
     QFile file(path);
     return file.open(QIODevice::WriteOnly)
-        && file.write(header.data(), qint64(header.size())) == qint64(header.size())
+        && file.write(reinterpret_cast<const char*>(header.data()), rawHeaderBytes)
+        == rawHeaderBytes
         && file.write(reinterpret_cast<const char*>(samples.data()), pixelBytes) == pixelBytes
         && file.flush();
 }

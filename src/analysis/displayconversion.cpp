@@ -4,7 +4,7 @@
 #include <hwy/highway.h>
 
 #include "analysis/displayconversion.h"
-#include "image/prefetch.h"
+#include "base/prefetch.h"
 
 #include <QtEndian>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "image/saturate.h"
+#include "base/saturate.h"
 
 #include <QtGlobal>
 

@@ -1,5 +1,6 @@
 #include "analysis/histogramdata.h"
 
+#include "base/limits.h"
 #include "analysis/roirows.h"
 #include "analysis/valuecounts.h"
 #include "image/sampledispatch.h"
@@ -10,9 +11,6 @@
 
 namespace {
 
-/// More bins than these are not kept in memory.
-constexpr quint64 largestBinCount = quint64(1) << 26;
-
 /// Values from min to max; 0 for a range that is turned round.
 quint64 valueCount(uint min, uint max)
 {
@@ -22,7 +20,7 @@ quint64 valueCount(uint min, uint max)
 bool fitsIntoBins(uint min, uint max)
 {
     const quint64 values = valueCount(min, max);
-    return values >= 1 && values <= largestBinCount;
+    return values >= 1 && values <= quint64(histogramBinLimit);
 }
 
 /// A block of `count` elements in `memory`; null when there is no memory for them. An old block of
@@ -324,7 +322,7 @@ bool HistogramData::hasImage() const
 
 bool HistogramData::isTooWideForBins() const
 {
-    return size != 0 && valueCount(min, max) > largestBinCount;
+    return size != 0 && valueCount(min, max) > quint64(histogramBinLimit);
 }
 
 template void HistogramData::createHistogramBuffer(const uchar*, int);

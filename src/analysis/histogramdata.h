@@ -3,7 +3,7 @@
 #include "analysis/displaylevels.h"
 #include "analysis/roirows.h"
 #include "analysis/samplecounts.h"
-#include "image/pixelmemory.h"
+#include "base/pixelmemory.h"
 
 #include <QObject>
 #include <QRect>

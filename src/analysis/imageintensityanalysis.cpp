@@ -2,7 +2,7 @@
 
 #include "analysis/roistatistics.h"
 #include "image/sampledispatch.h"
-#include "image/saturate.h"
+#include "base/saturate.h"
 
 #include <algorithm>
 #include <limits>

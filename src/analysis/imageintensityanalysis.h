@@ -3,7 +3,7 @@
 #include "analysis/displayconversion.h"
 #include "analysis/histogramdata.h"
 #include "analysis/intensityinfo.h"
-#include "image/pixelmemory.h"
+#include "base/pixelmemory.h"
 
 #include <QColor>
 #include <QImage>

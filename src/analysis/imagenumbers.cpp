@@ -1,12 +1,11 @@
 #include "analysis/imagenumbers.h"
 
+#include "base/limits.h"
 #include "image/sampledispatch.h"
 
 #include <algorithm>
 
 namespace {
-
-constexpr qint64 largestBinCount = qint64(1) << 26;
 
 RoiRows rowsOf(const ImageData& image, const QRect& rect, size_t sampleBytes)
 {
@@ -61,7 +60,7 @@ std::optional<ValueHistogram> rectHistogram(const ImageData& image, const QRect&
         const RoiRows rows = rowsOf(image, rect, sizeof(*samples));
         const SampleRange range = roiTotals(samples, rows).range;
         const qint64 bins = qint64(range.max) - range.min + 1;
-        if (bins < 1 || bins > largestBinCount) {
+        if (bins < 1 || bins > histogramBinLimit) {
             return;
         }
         histogram = ValueHistogram { range.min, QVector<uint>(int(bins), 0) };

@@ -3,7 +3,7 @@
 #include "analysis/displaylevels.h"
 #include "analysis/samplecounts.h"
 #include "image/imagedata.h"
-#include "image/pixelmemory.h"
+#include "base/pixelmemory.h"
 #include "image/sampledispatch.h"
 
 #include <QRect>

@@ -3,7 +3,7 @@
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
-#include "image/prefetch.h"
+#include "base/prefetch.h"
 #include "analysis/samplecounts.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "analysis/valuecounts.h"
 
-#include "image/prefetch.h"
+#include "base/prefetch.h"
 
 #include <algorithm>
 #include <cstring>

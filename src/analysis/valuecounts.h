@@ -2,7 +2,7 @@
 
 #include "analysis/roirows.h"
 #include "analysis/samplecounts.h"
-#include "image/pixelmemory.h"
+#include "base/pixelmemory.h"
 
 /// Counts of every value that a sample of 8 or 16 bits can have, made in one pass over many
 /// samples: smallest and largest value need no pass of their own. Exists for uchar and ushort.

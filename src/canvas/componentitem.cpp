@@ -1,6 +1,6 @@
 #include "canvas/componentitem.h"
 
-#include "image/saturate.h"
+#include "base/saturate.h"
 
 #include <QGraphicsLayoutItem>
 #include <QPainter>

@@ -1,6 +1,6 @@
 #include "canvas/crossitem.h"
 
-#include "image/saturate.h"
+#include "base/saturate.h"
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 #include "canvas/displaypixmap.h"
 
 #include "canvas/rgbwords.h"
-#include "image/pixelmemory.h"
+#include "base/pixelmemory.h"
 
 #include <QImage>
 #include <QPainter>

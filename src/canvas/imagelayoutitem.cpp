@@ -2,7 +2,7 @@
 
 #include "canvas/displaypixmap.h"
 #include "canvas/roigeometry.h"
-#include "image/saturate.h"
+#include "base/saturate.h"
 
 #include <QDebug>
 #include <QGraphicsSceneMouseEvent>

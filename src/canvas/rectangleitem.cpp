@@ -1,7 +1,7 @@
 #include "canvas/rectangleitem.h"
 
 #include "canvas/roigeometry.h"
-#include "image/saturate.h"
+#include "base/saturate.h"
 
 #include <QFontMetricsF>
 #include <QGraphicsSceneHoverEvent>

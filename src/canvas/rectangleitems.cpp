@@ -1,7 +1,7 @@
 #include "canvas/rectangleitems.h"
 
 #include "canvas/imagelayoutitem.h"
-#include "image/saturate.h"
+#include "base/saturate.h"
 
 #include <QImage>
 #include <QPointer>

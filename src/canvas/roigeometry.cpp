@@ -1,7 +1,7 @@
 #include "canvas/roigeometry.h"
 
 #include "canvas/viewport.h"
-#include "image/saturate.h"
+#include "base/saturate.h"
 
 #include <algorithm>
 #include <cmath>

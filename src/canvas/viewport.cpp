@@ -1,6 +1,6 @@
 #include "canvas/viewport.h"
 
-#include "image/saturate.h"
+#include "base/saturate.h"
 
 #include <algorithm>
 #include <cmath>

@@ -4,7 +4,7 @@
 #include <hwy/highway.h>
 
 #include "image/grayconversion.h"
-#include "image/prefetch.h"
+#include "base/prefetch.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "image/pixelmemory.h"
+#include "base/pixelmemory.h"
 
 #include <QtGlobal>
 

@@ -16,7 +16,7 @@ constexpr quint64 hugeByteCount = quint64(256) << 20;
 
 std::optional<RawHeader> readHeader(QFile& file)
 {
-    std::array<uchar, rawHeaderBytes> bytes {}; // a short file leaves zeros
+    RawHeaderBytes bytes {}; // a short file leaves zeros
     file.read(reinterpret_cast<char*>(bytes.data()), rawHeaderBytes);
     return parseRawHeader(bytes);
 }
@@ -63,17 +63,10 @@ LoadProblem headerProblem(const RawHeader& header)
     return header.channels > 4 ? LoadProblem::UnfaithfulChannels : LoadProblem::None;
 }
 
-/// Bytes of all pixels of a header without a problem: at most 2^36.
-quint64 pixelBytes(const RawHeader& header)
-{
-    return quint64(header.width) * quint64(header.height) * quint64(header.channels)
-        * quint64(header.bytesPerChannel);
-}
-
 bool isHugeAndCutShort(const QFile& file, const RawHeader& header)
 {
     const auto held = quint64(std::max<qint64>(file.size() - rawHeaderBytes, 0));
-    return pixelBytes(header) > hugeByteCount && held < pixelBytes(header);
+    return rawPixelBytes(header) > hugeByteCount && held < rawPixelBytes(header);
 }
 
 /// Reads pixels that cannot be taken as they stand.
@@ -81,7 +74,7 @@ LoadProblem takeConverted(
     QFile& file, const RawHeader& header, ImageData& image, ReadReport& report)
 {
     PixelMemory pixels;
-    if (!pixels.acquire(size_t(pixelBytes(header)))) {
+    if (!pixels.acquire(size_t(rawPixelBytes(header)))) {
         return LoadProblem::TooLarge;
     }
     const auto held = qint64(pixels.size());

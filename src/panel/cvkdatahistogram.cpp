@@ -1,5 +1,6 @@
 #include "panel/cvkdatahistogram.h"
 
+#include "base/limits.h"
 #include "panel/controlenabled.h"
 #include "panel/modulebackground.h"
 #include "ui_cvkdatahistogram.h"
@@ -12,7 +13,6 @@
 
 namespace {
 
-constexpr qint64 maxCounts = 1 << 26;
 const QColor curveColor(40, 128, 140);
 
 /// Pixels between two inclusive corners. Limited to 32 bits, so that a product fits 64.
@@ -171,7 +171,7 @@ void CVKDataHistogram::dropCounts()
 
 void CVKDataHistogram::newHistogramSize(int size)
 {
-    if (size < 1 || size > maxCounts) {
+    if (size < 1 || size > histogramBinLimit) {
         dropCounts(); // the curve of the last image does not stay under a new one
         update();
         return;
@@ -185,11 +185,11 @@ void CVKDataHistogram::newHistogramSize(int size)
 void CVKDataHistogram::updateRoiIntensityHistogram(uint* counts, int maxSize, uint min, uint max)
 {
     const qint64 size = qint64(max) - min + 1;
-    if (!counts || size < 1 || size > maxCounts) {
+    if (!counts || size < 1 || size > histogramBinLimit) {
         return;
     }
     // A region left over from another image can have more values than are announced.
-    const qint64 capacity = std::max(size, std::min(qint64(maxSize), maxCounts));
+    const qint64 capacity = std::max(size, std::min(qint64(maxSize), histogramBinLimit));
     if (m_capacity < capacity && !allocateCounts(capacity)) {
         return;
     }

@@ -2,6 +2,7 @@
 
 #include "panel/controlenabled.h"
 #include "panel/modulebackground.h"
+#include "base/grayramp.h"
 #include "panel/palettefile.h"
 #include "ui_cvkdisplaypreferences.h"
 
@@ -19,16 +20,6 @@ constexpr int grayPalette = 0;
 constexpr int largestPeakCount = 200;
 constexpr int largestStart = 2000;
 constexpr int largestPixelWidth = 100;
-
-QVector<QColor> grayLevels()
-{
-    QVector<QColor> colors;
-    colors.reserve(256);
-    for (int level = 0; level < 256; ++level) {
-        colors.append(QColor(level, level, level));
-    }
-    return colors;
-}
 
 /// File of palette `index` >= 1, below the directory of the application.
 QString paletteFileName(int index)
@@ -53,7 +44,7 @@ CVKDisplayPreferences::CVKDisplayPreferences(QWidget* parent)
     m_applicationDirectory = QDir(QCoreApplication::applicationDirPath()).path();
     attachValidators();
     fillComboBoxes();
-    m_palettes[grayPalette] = grayLevels();
+    m_palettes[grayPalette] = grayRamp();
     resetDefaults();
 }
 

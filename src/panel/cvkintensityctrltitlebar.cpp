@@ -1,6 +1,6 @@
 #include "panel/cvkintensityctrltitlebar.h"
 
-#include "panel/scaledpixels.h"
+#include "base/screenscale.h"
 #include "panel/titlebarskin.h"
 
 #include <QHBoxLayout>

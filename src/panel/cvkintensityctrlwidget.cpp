@@ -3,7 +3,7 @@
 #include "panel/cvkdatahistogram.h"
 #include "panel/cvkdisplaypreferences.h"
 #include "panel/cvkintensityctrltitlebar.h"
-#include "panel/scaledpixels.h"
+#include "base/screenscale.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>

@@ -1,12 +1,12 @@
 #include "panel/histogrampolyline.h"
 
-#include "image/saturate.h"
+#include "base/limits.h"
+#include "base/saturate.h"
 
 #include <algorithm>
 
 namespace {
 
-constexpr int maxFrameWidth = 1 << 20; // pixels
 constexpr double textInset = 2.0; // pixels between the group box's edge and a text kept inside it
 
 int textBaseline(const QRect& frame, double lineHeight)
@@ -32,7 +32,7 @@ void buildHistogramPolyline(QVector<QLineF>& lines, const uint* counts, int size
 {
     Q_ASSERT(counts && size >= 1);
     lines.resize(0);
-    if (frame.width() > maxFrameWidth) {
+    if (frame.width() > surfaceSideLimit) {
         return;
     }
     const double left = frame.left();

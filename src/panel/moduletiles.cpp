@@ -1,18 +1,20 @@
 #include "panel/moduletiles.h"
 
+#include "base/limits.h"
+
 #include <algorithm>
 
 namespace {
 
 constexpr qint64 maxTiles = 1 << 20;
-constexpr int maxExtent = 1 << 20; // no surface to paint on is larger
 
 /// Whether both sizes have an area, sums of them fit an int, and a row or a column of tiles fits
 /// the memory.
 bool canBeTiled(const QSize& tile, const QSize& panel)
 {
     return !tile.isEmpty() && !panel.isEmpty()
-        && std::max({ tile.width(), tile.height(), panel.width(), panel.height() }) <= maxExtent;
+        && std::max({ tile.width(), tile.height(), panel.width(), panel.height() })
+        <= surfaceSideLimit;
 }
 
 /// Whether a whole area of tiles fits the memory, too.

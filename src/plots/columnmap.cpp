@@ -1,6 +1,6 @@
 #include "plots/columnmap.h"
 
-#include "image/saturate.h"
+#include "base/saturate.h"
 
 #include <algorithm>
 

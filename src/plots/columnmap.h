@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plots/peakdetection.h"
+#include "analysis/peakdetection.h"
 
 #include <QLineF>
 #include <QSizeF>

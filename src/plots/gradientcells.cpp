@@ -1,6 +1,6 @@
 #include "plots/gradientcells.h"
 
-#include "image/saturate.h"
+#include "base/saturate.h"
 
 namespace {
 

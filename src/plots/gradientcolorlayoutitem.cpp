@@ -1,26 +1,14 @@
 #include "plots/gradientcolorlayoutitem.h"
 
+#include "base/grayramp.h"
 #include "plots/gradientcells.h"
 
 #include <QPainter>
 #include <QPointer>
 
-namespace {
-
-QVector<QColor> greys()
-{
-    QVector<QColor> colors;
-    for (int level = 0; level < 256; ++level) {
-        colors.append(QColor(level, level, level));
-    }
-    return colors;
-}
-
-} // namespace
-
 GradientColorLayoutItem::GradientColorLayoutItem(QGraphicsItem* parent)
     : ComponentWithBordersItem(parent)
-    , m_colors(greys())
+    , m_colors(grayRamp())
 {
     setGraphicsItem(this);
 }

@@ -1,6 +1,6 @@
 #include "plots/intensitycurveaxisitem.h"
 
-#include "image/saturate.h"
+#include "base/saturate.h"
 #include "plots/peaklabels.h"
 
 #include <QDebug>

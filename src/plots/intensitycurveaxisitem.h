@@ -3,7 +3,7 @@
 #include "canvas/crossitem.h"
 #include "plots/columnmap.h"
 #include "plots/intensitycurvelayoutitem.h"
-#include "plots/peakdetection.h"
+#include "analysis/peakdetection.h"
 #include "plots/valuerange.h"
 
 /// Large chart of one whole profile that never loses a peak, however many samples share a column.

@@ -1,6 +1,6 @@
 #include "plots/intensitycurvehorizontal.h"
 
-#include "image/saturate.h"
+#include "base/saturate.h"
 #include "plots/profilepolyline.h"
 
 #include <QPainter>

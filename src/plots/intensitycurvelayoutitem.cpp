@@ -1,6 +1,6 @@
 #include "plots/intensitycurvelayoutitem.h"
 
-#include "image/saturate.h"
+#include "base/saturate.h"
 
 #include <QGraphicsScene>
 #include <QGraphicsSceneMouseEvent>

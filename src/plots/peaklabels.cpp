@@ -1,6 +1,6 @@
 #include "plots/peaklabels.h"
 
-#include "image/saturate.h"
+#include "base/saturate.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #include "plots/profilepolyline.h"
 
-#include "image/saturate.h"
+#include "base/saturate.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "plots/rulerbarlayoutitem.h"
 
-#include "image/saturate.h"
+#include "base/saturate.h"
 
 #include <QFontMetricsF>
 #include <QPainter>

@@ -1,6 +1,6 @@
 #include "plots/rulerscale.h"
 
-#include "image/saturate.h"
+#include "base/saturate.h"
 
 #include <algorithm>
 #include <cmath>

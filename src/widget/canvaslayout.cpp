@@ -1,6 +1,6 @@
 #include "widget/canvaslayout.h"
 
-#include "image/saturate.h"
+#include "base/saturate.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "widget/columnskin.h"
 
-#include "panel/scaledpixels.h"
+#include "base/screenscale.h"
 
 #include <QPainter>
 #include <QPixmap>

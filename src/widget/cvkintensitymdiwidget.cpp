@@ -1,8 +1,8 @@
 #include "widget/cvkintensitymdiwidget.h"
 
 #include "canvas/imagelayoutitem.h"
-#include "image/saturate.h"
-#include "panel/scaledpixels.h"
+#include "base/saturate.h"
+#include "base/screenscale.h"
 #include "plots/gradientcolorlayoutitem.h"
 #include "plots/intensitycurveaxisitem.h"
 #include "plots/intensitycurvehorizontal.h"

@@ -4,7 +4,7 @@
 #include "panel/cvkdatahistogram.h"
 #include "panel/cvkdisplaypreferences.h"
 #include "panel/cvkintensityctrlwidget.h"
-#include "panel/scaledpixels.h"
+#include "base/screenscale.h"
 #include "widget/columnskin.h"
 #include "widget/cvkintensitymdiwidget.h"
 #include "widget/intensitydoor.h"

@@ -5,7 +5,7 @@
 
 #include "analysis/imagenumbers.h"
 #include "canvas/imagelayoutitem.h"
-#include "image/saturate.h"
+#include "base/saturate.h"
 #include "panel/cvkdatahistogram.h"
 #include "panel/cvkdisplaypreferences.h"
 #include "plots/intensitycurveaxisitem.h"

@@ -5,7 +5,7 @@
 
 #include "analysis/imagenumbers.h"
 #include "plots/intensitycurveaxisitem.h"
-#include "plots/peakdetection.h"
+#include "analysis/peakdetection.h"
 #include "widget/cvkintensitymdiwidget.h"
 #include "widget/intensitydoor.h"
 

@@ -1,7 +1,7 @@
 #include "widget/readout.h"
 
 #include "image/imagedata.h"
-#include "image/saturate.h"
+#include "base/saturate.h"
 
 #include <QCoreApplication>
 

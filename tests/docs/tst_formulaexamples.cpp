@@ -2,7 +2,7 @@
 #include "image/imagedata.h"
 #include "panel/cvkdatahistogram.h"
 #include "plots/columnmap.h"
-#include "plots/peakdetection.h"
+#include "analysis/peakdetection.h"
 #include "plots/peaklabels.h"
 #include "plots/rulerbarhorizontal.h"
 #include "plots/rulerbarvertical.h"

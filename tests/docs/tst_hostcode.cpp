@@ -194,8 +194,8 @@ void TestHostCode::initTestCase()
         QRegularExpression::MultilineOption | QRegularExpression::DotMatchesEverythingOption);
     m_styleSheet = block.match(m_page).captured(1);
     QVERIFY(m_styleSheet.size() > 100);
-    QVERIFY(writeRawFile(path("ramp.raw"), rawFrame(640, 480, 1, 2, bytesOf(ramp()))));
-    QVERIFY(writeRawFile(path("empty.raw"), rawFrame(0, 0, 1, 2, QByteArray())));
+    QVERIFY(writeRawFile(path("ramp.raw"), rawFile(640, 480, 1, 2, bytesOf(ramp()))));
+    QVERIFY(writeRawFile(path("empty.raw"), rawFile(0, 0, 1, 2, QByteArray())));
 }
 
 void TestHostCode::cleanup()

@@ -1,6 +1,6 @@
 #include "image/imagedata.h"
 #include "image/imageloadvk.h"
-#include "image/pixelmemory.h"
+#include "base/pixelmemory.h"
 #include "support/memorylimit.h"
 #include "support/sampleframes.h"
 
@@ -75,7 +75,7 @@ void TestAllocationFailure::rawLoader_leavesTheRecord()
 {
     QTemporaryDir folder;
     const QString path = folder.filePath("large.raw");
-    QVERIFY(writeRawFile(path, rawFrame(32768, 32768, 1, 1, "abc")));
+    QVERIFY(writeRawFile(path, rawFile(32768, 32768, 1, 1, "abc")));
     ImageData image;
     QVERIFY(image.allocate(3, 1, 8, 1));
     std::memcpy(image.data, "xyz", 3);

@@ -47,7 +47,7 @@ void TestFaithfulRawFiles::rawFiles()
     for (int i = 0; i < int(bytes.size()); ++i) {
         bytes[i] = char(i * 37 + 11);
     }
-    const RawFrame frame = rawFrame(width, height, channels, bytesPerChannel, bytes);
+    const RawFile frame = rawFile(width, height, channels, bytesPerChannel, bytes);
     QVERIFY(writeRawFile(path("frame.raw"), frame));
     const bool isGood = problem == LoadProblem::None;
     QCOMPARE(load("frame.raw"), isGood);
@@ -64,14 +64,14 @@ void TestFaithfulRawFiles::rawFiles()
 
 void TestFaithfulRawFiles::rawAlphaIsDropped()
 {
-    QVERIFY(writeRawFile(path("two.raw"), rawFrame(2, 2, 2, 1, "aAbBcCdD")));
+    QVERIFY(writeRawFile(path("two.raw"), rawFile(2, 2, 2, 1, "aAbBcCdD")));
     QVERIFY(load("two.raw"));
     QCOMPARE(image.channels, 1);
     QCOMPARE(pixels(), QByteArray("abcd"));
     QCOMPARE(report.channels, 2);
     QVERIFY(report.isAlphaDropped);
     const QByteArray deep = bytesOf<quint16>({ 1, 2, 3, 99, 4, 5, 6, 99 });
-    QVERIFY(writeRawFile(path("four.raw"), rawFrame(1, 2, 4, 2, deep)));
+    QVERIFY(writeRawFile(path("four.raw"), rawFile(1, 2, 4, 2, deep)));
     QVERIFY(load("four.raw"));
     QCOMPARE(image.channels, 3);
     QCOMPARE(pixels(), bytesOf<quint16>({ 1, 2, 3, 4, 5, 6 }));
@@ -81,7 +81,7 @@ void TestFaithfulRawFiles::rawAlphaIsDropped()
 void TestFaithfulRawFiles::rawWideColorIsReduced()
 {
     const QByteArray white = bytesOf<quint32>({ 4294967295u, 4294967295u, 4294967295u });
-    QVERIFY(writeRawFile(path("white.raw"), rawFrame(1, 1, 3, 4, white)));
+    QVERIFY(writeRawFile(path("white.raw"), rawFile(1, 1, 3, 4, white)));
     QVERIFY(load("white.raw"));
     QCOMPARE(image.channels, 1);
     QCOMPARE(report.channels, 3);
@@ -90,12 +90,12 @@ void TestFaithfulRawFiles::rawWideColorIsReduced()
 
 void TestFaithfulRawFiles::rawCutShortHasZeros()
 {
-    RawFrame frame = rawFrame(2, 2, 1, 1, "abc");
+    RawFile frame = rawFile(2, 2, 1, 1, "abc");
     frame.dataSize = 4;
     QVERIFY(writeRawFile(path("short.raw"), frame));
     QVERIFY(load("short.raw"));
     QCOMPARE(pixels(), QByteArray("abc\0", 4));
-    frame = rawFrame(2, 2, 2, 1, "aAb");
+    frame = rawFile(2, 2, 2, 1, "aAb");
     frame.dataSize = 8;
     QVERIFY(writeRawFile(path("short.raw"), frame));
     QVERIFY(load("short.raw"));
@@ -104,7 +104,7 @@ void TestFaithfulRawFiles::rawCutShortHasZeros()
 
 void TestFaithfulRawFiles::rawHugeAndCutShortIsRefused()
 {
-    RawFrame frame = rawFrame(16384, 16385, 1, 1, "abc"); // one row above 256 MiB
+    RawFile frame = rawFile(16384, 16385, 1, 1, "abc"); // one row above 256 MiB
     frame.dataSize = 16384u * 16385u;
     QVERIFY(writeRawFile(path("huge.raw"), frame));
     QVERIFY(!load("huge.raw"));

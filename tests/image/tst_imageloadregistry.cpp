@@ -53,7 +53,7 @@ void TestImageLoadRegistry::suffixPicksTheLoader()
     QFETCH(QString, name);
     const QString path = m_folder.filePath(name);
     if (name.toLower().endsWith(".raw")) {
-        QVERIFY(writeRawFile(path, rawFrame(2, 1, 1, 1, "ab")));
+        QVERIFY(writeRawFile(path, rawFile(2, 1, 1, 1, "ab")));
     } else {
         QVERIFY(writeImageFile(path, 2, 1, 1, FrameSample::Unsigned8, "ab"));
     }
@@ -92,7 +92,7 @@ void TestImageLoadRegistry::unknownSuffixesFail()
 {
     QFETCH(QString, name);
     const QString path = m_folder.filePath(name);
-    QVERIFY(writeRawFile(path, rawFrame(2, 1, 1, 1, "ab")));
+    QVERIFY(writeRawFile(path, rawFile(2, 1, 1, 1, "ab")));
     ImageData image;
     QVERIFY(!m_loaders.load(path, &image));
     QVERIFY(!image.data);
@@ -102,7 +102,7 @@ void TestImageLoadRegistry::aLoaderReadsOnlyItsOwnFormat()
 {
     ImageData image;
     const QString raw = m_folder.filePath("really-raw.png");
-    QVERIFY(writeRawFile(raw, rawFrame(2, 1, 1, 1, "ab")));
+    QVERIFY(writeRawFile(raw, rawFile(2, 1, 1, 1, "ab")));
     QVERIFY(!m_loaders.load(raw, &image));
     const QString png = m_folder.filePath("really.png");
     QVERIFY(writeImageFile(png, 2, 1, 1, FrameSample::Unsigned8, "ab"));
@@ -135,7 +135,7 @@ void TestImageLoadRegistry::notARegularFile()
 void TestImageLoadRegistry::noRecord()
 {
     const QString path = m_folder.filePath("some.raw");
-    QVERIFY(writeRawFile(path, rawFrame(2, 1, 1, 1, "ab")));
+    QVERIFY(writeRawFile(path, rawFile(2, 1, 1, 1, "ab")));
     QVERIFY(!m_loaders.load(path, nullptr));
 }
 
@@ -143,7 +143,7 @@ void TestImageLoadRegistry::loadsOneAfterTheOther()
 {
     const QString first = m_folder.filePath("first.raw");
     const QString second = m_folder.filePath("second.png");
-    QVERIFY(writeRawFile(first, rawFrame(2, 1, 1, 2, "abcd")));
+    QVERIFY(writeRawFile(first, rawFile(2, 1, 1, 2, "abcd")));
     QVERIFY(writeImageFile(second, 3, 1, 1, FrameSample::Unsigned8, "xyz"));
     ImageData image;
     QVERIFY(m_loaders.load(first, &image));

@@ -33,7 +33,7 @@ private Q_SLOTS:
     void noRecord();
 
 private:
-    bool load(const RawFrame& frame);
+    bool load(const RawFile& frame);
     bool loadFile(const QString& path);
     QByteArray pixels() const;
 
@@ -53,7 +53,7 @@ void TestImageLoadVk::init()
     m_image.release();
 }
 
-bool TestImageLoadVk::load(const RawFrame& frame)
+bool TestImageLoadVk::load(const RawFile& frame)
 {
     return writeRawFile(m_path, frame) && loadFile(m_path);
 }
@@ -73,7 +73,7 @@ QByteArray TestImageLoadVk::pixels() const
 void TestImageLoadVk::loadsAFrame()
 {
     const QByteArray bytes = bytesOf<ushort>({ 1, 2, 3, 400, 500, 65535 });
-    QVERIFY(load(rawFrame(3, 2, 1, 2, bytes)));
+    QVERIFY(load(rawFile(3, 2, 1, 2, bytes)));
     QCOMPARE(m_image.width, 3);
     QCOMPARE(m_image.height, 2);
     QCOMPARE(m_image.bitDepth, 16);
@@ -85,14 +85,14 @@ void TestImageLoadVk::loadsAFrame()
 
 void TestImageLoadVk::loadsColourAsItStands()
 {
-    QVERIFY(load(rawFrame(2, 1, 3, 1, "abcdef")));
+    QVERIFY(load(rawFile(2, 1, 3, 1, "abcdef")));
     QCOMPARE(m_image.channels, 3);
     QCOMPARE(pixels(), QByteArray("abcdef"));
 }
 
 void TestImageLoadVk::shortFileKeepsZeros()
 {
-    RawFrame frame = rawFrame(4, 2, 1, 1, "abcde");
+    RawFile frame = rawFile(4, 2, 1, 1, "abcde");
     frame.dataSize = 8;
     QVERIFY(load(frame));
     QCOMPARE(pixels(), QByteArray("abcde\0\0\0", 8));
@@ -100,8 +100,8 @@ void TestImageLoadVk::shortFileKeepsZeros()
 
 void TestImageLoadVk::shortFileIntoAUsedRecordKeepsZeros()
 {
-    QVERIFY(load(rawFrame(4, 2, 1, 1, "ABCDEFGH")));
-    RawFrame frame = rawFrame(4, 2, 1, 1, "abcde");
+    QVERIFY(load(rawFile(4, 2, 1, 1, "ABCDEFGH")));
+    RawFile frame = rawFile(4, 2, 1, 1, "abcde");
     frame.dataSize = 8;
     QVERIFY(load(frame));
     QCOMPARE(pixels(), QByteArray("abcde\0\0\0", 8));
@@ -109,7 +109,7 @@ void TestImageLoadVk::shortFileIntoAUsedRecordKeepsZeros()
 
 void TestImageLoadVk::headerDataSizeLimitsTheRead()
 {
-    RawFrame frame = rawFrame(4, 2, 1, 1, "abcdefgh");
+    RawFile frame = rawFile(4, 2, 1, 1, "abcdefgh");
     frame.dataSize = 3;
     QVERIFY(load(frame));
     QCOMPARE(pixels(), QByteArray("abc\0\0\0\0\0", 8));
@@ -117,7 +117,7 @@ void TestImageLoadVk::headerDataSizeLimitsTheRead()
 
 void TestImageLoadVk::headerDataSizeBeyondTheFrameIsCut()
 {
-    RawFrame frame = rawFrame(2, 2, 1, 1, "abcdefgh");
+    RawFile frame = rawFile(2, 2, 1, 1, "abcdefgh");
     frame.dataSize = 4294967295u;
     QVERIFY(load(frame));
     QCOMPARE(pixels(), QByteArray("abcd"));
@@ -125,7 +125,7 @@ void TestImageLoadVk::headerDataSizeBeyondTheFrameIsCut()
 
 void TestImageLoadVk::fileEndingInsideTheHeader()
 {
-    const QByteArray header = rawHeaderBytesOf(rawFrame(2, 2, 1, 1, "abcd"));
+    const QByteArray header = rawHeaderBytesOf(rawFile(2, 2, 1, 1, "abcd"));
     QVERIFY(writeFile(m_path, header.left(24))); // width, height, channels and bytes, no data size
     QVERIFY(loadFile(m_path));
     QCOMPARE(pixels(), QByteArray(4, '\0'));
@@ -155,7 +155,7 @@ void TestImageLoadVk::loadsDepthsAndChannelsNothingCanProcess()
     QFETCH(int, channels);
     QFETCH(int, bytesPerChannel);
     const QByteArray bytes(2 * 3 * channels * bytesPerChannel, 'x');
-    QVERIFY(load(rawFrame(3, 2, channels, bytesPerChannel, bytes)));
+    QVERIFY(load(rawFile(3, 2, channels, bytesPerChannel, bytes)));
     QCOMPARE(m_image.bitDepth, 8 * bytesPerChannel);
     QCOMPARE(m_image.channels, channels);
     QCOMPARE(pixels(), bytes);
@@ -176,7 +176,7 @@ void TestImageLoadVk::withoutWidthOrHeight()
     QFETCH(int, width);
     QFETCH(int, height);
     QFETCH(int, format);
-    QVERIFY(load(rawFrame(width, height, format, format, "abcdef")));
+    QVERIFY(load(rawFile(width, height, format, format, "abcdef")));
     QCOMPARE(m_image.width, width);
     QCOMPARE(m_image.height, height);
     QVERIFY(m_image.data);
@@ -186,23 +186,23 @@ void TestImageLoadVk::withoutWidthOrHeight()
 void TestImageLoadVk::refusedFilesLeaveTheRecord_data()
 {
     QTest::addColumn<QByteArray>("bytes");
-    RawFrame lower = rawFrame(2, 2, 1, 1, "abcd");
+    RawFile lower = rawFile(2, 2, 1, 1, "abcd");
     lower.signature = "vorlak";
     QTest::newRow("signature in lower case") << rawHeaderBytesOf(lower) + "abcd";
-    RawFrame late = rawFrame(2, 2, 1, 1, "abcd");
+    RawFile late = rawFile(2, 2, 1, 1, "abcd");
     late.signature = QByteArray("x\0VORLAK", 8);
     QTest::newRow("signature behind a zero byte") << rawHeaderBytesOf(late) + "abcd";
     QTest::newRow("signature behind the header") << QByteArray(1024, 'x') + "VORLAK";
     QTest::newRow("empty file") << QByteArray();
-    QTest::newRow("too many pixels") << rawHeaderBytesOf(rawFrame(65535, 65535, 1, 1, "abcd"));
-    QTest::newRow("too long a line") << rawHeaderBytesOf(rawFrame(65535, 1, 255, 255, "abcd"));
-    QTest::newRow("too many bytes") << rawHeaderBytesOf(rawFrame(32768, 32768, 1, 2, "abcd"));
+    QTest::newRow("too many pixels") << rawHeaderBytesOf(rawFile(65535, 65535, 1, 1, "abcd"));
+    QTest::newRow("too long a line") << rawHeaderBytesOf(rawFile(65535, 1, 255, 255, "abcd"));
+    QTest::newRow("too many bytes") << rawHeaderBytesOf(rawFile(32768, 32768, 1, 2, "abcd"));
 }
 
 void TestImageLoadVk::refusedFilesLeaveTheRecord()
 {
     QFETCH(QByteArray, bytes);
-    QVERIFY(load(rawFrame(3, 1, 1, 1, "xyz")));
+    QVERIFY(load(rawFile(3, 1, 1, 1, "xyz")));
     const uchar* data = m_image.data;
     QVERIFY(writeFile(m_path, bytes));
     QVERIFY(!loadFile(m_path));
@@ -226,7 +226,7 @@ void TestImageLoadVk::notARegularFile()
 
 void TestImageLoadVk::noRecord()
 {
-    QVERIFY(writeRawFile(m_path, rawFrame(1, 1, 1, 1, "a")));
+    QVERIFY(writeRawFile(m_path, rawFile(1, 1, 1, 1, "a")));
     ImageLoadVk loader;
     loader.filePath = m_path;
     QVERIFY(!loader.load(nullptr));

@@ -40,7 +40,7 @@ void TestLoadProblems::asStoredReportsTheFile()
     QCOMPARE(report.channels, 4);
     QCOMPARE(report.pageCount, 1);
     QVERIFY(!report.isAlphaDropped);
-    QVERIFY(writeRawFile(path("stored.raw"), rawFrame(1, 1, 7, 1, "abcdefg")));
+    QVERIFY(writeRawFile(path("stored.raw"), rawFile(1, 1, 7, 1, "abcdefg")));
     QVERIFY(load("stored.raw", ReadOptions()));
     QCOMPARE(report.channels, 7);
 }
@@ -74,7 +74,7 @@ void TestLoadProblems::problems_data()
         LoadProblem::UnsupportedKind);
     row("cut TIFF", "c.tif", cutTiff, LoadProblem::NotReadable);
     row("too large a bitmap", "d.bmp", hugeBitmap, LoadProblem::TooLarge);
-    row("too large a raw file", "e.raw", rawHeaderBytesOf(rawFrame(65535, 65535, 255, 255, "")),
+    row("too large a raw file", "e.raw", rawHeaderBytesOf(rawFile(65535, 65535, 255, 255, "")),
         LoadProblem::TooLarge);
 }
 
@@ -122,7 +122,7 @@ void TestLoadProblems::pixelLimit()
     QFETCH(QString, name);
     const QByteArray samples(7 * 5, 'a');
     if (name.endsWith(".raw")) {
-        QVERIFY(writeRawFile(path(name), rawFrame(7, 5, 1, 1, samples)));
+        QVERIFY(writeRawFile(path(name), rawFile(7, 5, 1, 1, samples)));
     } else {
         QVERIFY(writeImageFile(path(name), 7, 5, 1, FrameSample::Unsigned8, samples));
     }

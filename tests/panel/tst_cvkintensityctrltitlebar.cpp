@@ -1,7 +1,7 @@
 #include "panel/cvkintensityctrltitlebar.h"
 
 #include "panel/formtree.h"
-#include "panel/scaledpixels.h"
+#include "base/screenscale.h"
 #include "support/recordingpaintdevice.h"
 
 #include <QHBoxLayout>

@@ -4,7 +4,7 @@
 #include "panel/cvkdisplaypreferences.h"
 #include "panel/cvkintensityctrltitlebar.h"
 #include "panel/formtree.h"
-#include "panel/scaledpixels.h"
+#include "base/screenscale.h"
 
 #include <QLabel>
 #include <QPointer>

@@ -1,7 +1,6 @@
 #include "support/sampleframes.h"
 
 #include <QFile>
-#include <QtEndian>
 
 #include <opencv2/core/core.hpp>
 #if __has_include(<opencv2/imgcodecs/imgcodecs.hpp>)
@@ -28,28 +27,26 @@ int matrixDepth(FrameSample sample)
 
 } // namespace
 
-RawFrame rawFrame(int width, int height, int channels, int bytesPerChannel, QByteArray pixels)
+RawFile rawFile(int width, int height, int channels, int bytesPerChannel, QByteArray pixels)
 {
-    RawFrame frame;
-    frame.width = width;
-    frame.height = height;
-    frame.channels = channels;
-    frame.bytesPerChannel = bytesPerChannel;
-    frame.dataSize = quint32(pixels.size());
-    frame.pixels = pixels;
-    return frame;
+    RawFile file;
+    file.width = width;
+    file.height = height;
+    file.channels = channels;
+    file.bytesPerChannel = bytesPerChannel;
+    file.dataSize = quint32(pixels.size());
+    file.pixels = pixels;
+    return file;
 }
 
-QByteArray rawHeaderBytesOf(const RawFrame& frame)
+QByteArray rawHeaderBytesOf(const RawFile& file)
 {
-    QByteArray header(1024, '\0');
-    header.replace(0, frame.signature.size(), frame.signature);
-    qToLittleEndian(quint16(frame.width), header.data() + 12);
-    qToLittleEndian(quint16(frame.height), header.data() + 14);
-    header[22] = char(frame.channels);
-    header[23] = char(frame.bytesPerChannel);
-    qToLittleEndian(frame.dataSize, header.data() + 32);
-    return header;
+    const RawHeaderBytes packed = packedRawHeader(file);
+    QByteArray bytes(reinterpret_cast<const char*>(packed.data()), rawHeaderBytes);
+    bytes.replace(
+        0, int(sizeof rawheader::signature), QByteArray(sizeof rawheader::signature, '\0'));
+    bytes.replace(0, file.signature.size(), file.signature);
+    return bytes;
 }
 
 bool writeFile(const QString& path, const QByteArray& bytes)
@@ -58,9 +55,9 @@ bool writeFile(const QString& path, const QByteArray& bytes)
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
 }
 
-bool writeRawFile(const QString& path, const RawFrame& frame)
+bool writeRawFile(const QString& path, const RawFile& file)
 {
-    return writeFile(path, rawHeaderBytesOf(frame) + frame.pixels);
+    return writeFile(path, rawHeaderBytesOf(file) + file.pixels);
 }
 
 bool writeImageFile(const QString& path, int width, int height, int channels, FrameSample sample,

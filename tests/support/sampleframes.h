@@ -1,5 +1,7 @@
 #pragma once
 
+#include "image/rawheader.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -7,26 +9,22 @@
 
 /// Image files that the tests write for the loaders to read.
 
-/// The numbers of a raw file's header; the signature stands at the start unless told otherwise.
-struct RawFrame
+/// A raw file as it is written, which its header need not describe truly; the signature stands at
+/// the start unless told otherwise.
+struct RawFile : RawHeader
 {
-    int width = 0;
-    int height = 0;
-    int channels = 1;
-    int bytesPerChannel = 1;
-    quint32 dataSize = 0; ///< as the header claims
     QByteArray pixels; ///< as the file holds them
     QByteArray signature = "VORLAK";
 };
 
-/// The frame whose header tells the truth about `pixels`.
-RawFrame rawFrame(int width, int height, int channels, int bytesPerChannel, QByteArray pixels);
+/// The file whose header tells the truth about `pixels`.
+RawFile rawFile(int width, int height, int channels, int bytesPerChannel, QByteArray pixels);
 
-/// The 1024 header bytes of `frame`.
-QByteArray rawHeaderBytesOf(const RawFrame& frame);
+/// The 1024 header bytes of `file`.
+QByteArray rawHeaderBytesOf(const RawFile& file);
 
 /// Writes header and pixels; false when the file cannot be written whole.
-bool writeRawFile(const QString& path, const RawFrame& frame);
+bool writeRawFile(const QString& path, const RawFile& file);
 
 bool writeFile(const QString& path, const QByteArray& bytes);
 

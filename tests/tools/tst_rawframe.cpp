@@ -232,7 +232,7 @@ void TestRawFrame::frame_withoutPixels()
     const QString path = write("empty.raw", header);
     RawHeader read;
     QCOMPARE(readRawHeader(path, &read), RawFileError::None);
-    QVERIFY(pixelByteCount(read) == 0);
+    QVERIFY(rawPixelBytes(read) == 0);
     RawFrame frame = smallFrame();
     QCOMPARE(readRawFrame(path, &frame), RawFileError::NoPixels);
     QCOMPARE(frame.bytes, smallFrame().bytes);
@@ -245,7 +245,7 @@ void TestRawFrame::frame_hugeClaimIsRefusedUnread()
     RawHeader header;
     QCOMPARE(readRawHeader(path, &header), RawFileError::None);
     // 65535 * 65535 * 255 * 255, far beyond 32 bits
-    QVERIFY(pixelByteCount(header) == Q_UINT64_C(279271725530625));
+    QVERIFY(rawPixelBytes(header) == Q_UINT64_C(279271725530625));
     RawFrame frame = smallFrame();
     QCOMPARE(readRawFrame(path, &frame), RawFileError::TooLarge);
     QCOMPARE(frame.width, 3);

@@ -208,7 +208,7 @@ inline bool writeSquareFrame(const QString& path)
             square[size_t(y * 512 + x)] = quint16(y == 128 ? 5000 : 1000 + x);
         }
     }
-    return writeRawFile(path, rawFrame(512, 512, 1, 2, bytesOf(square)));
+    return writeRawFile(path, rawFile(512, 512, 1, 2, bytesOf(square)));
 }
 
 /// Shows the host 1000 x 800 large with the frame.

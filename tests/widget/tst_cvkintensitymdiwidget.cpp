@@ -60,9 +60,9 @@ void TestCVKIntensityMdiWidget::initTestCase()
     QLoggingCategory::setFilterRules("*.debug=false");
     QVERIFY(writeSquareFrame(path("square.raw")));
     QVERIFY(writeRawFile(path("small.raw"),
-        rawFrame(4, 2, 1, 1, bytesOf(std::vector<uchar> { 10, 20, 30, 40, 50, 60, 70, 80 }))));
-    QVERIFY(writeRawFile(path("empty.raw"), rawFrame(0, 5, 1, 2, QByteArray())));
-    RawFrame unsignedFrame = rawFrame(4, 2, 1, 1, QByteArray(8, 'a'));
+        rawFile(4, 2, 1, 1, bytesOf(std::vector<uchar> { 10, 20, 30, 40, 50, 60, 70, 80 }))));
+    QVERIFY(writeRawFile(path("empty.raw"), rawFile(0, 5, 1, 2, QByteArray())));
+    RawFile unsignedFrame = rawFile(4, 2, 1, 1, QByteArray(8, 'a'));
     unsignedFrame.signature = "vorlak";
     QVERIFY(writeRawFile(path("lowercase.raw"), unsignedFrame));
     QVERIFY(writeFile(path("text.png"), "not a picture"));
@@ -613,7 +613,7 @@ void TestCVKIntensityMdiWidget::opensEveryKindOfFile_data()
         for (int i = 0; i < width * height * channels * bytes; ++i) {
             pixels.append(char(i * 7));
         }
-        QVERIFY(writeRawFile(path(name), rawFrame(width, height, channels, bytes, pixels)));
+        QVERIFY(writeRawFile(path(name), rawFile(width, height, channels, bytes, pixels)));
         QTest::newRow(title) << name;
     };
     raw("one pixel", 1, 1, 1, 1);

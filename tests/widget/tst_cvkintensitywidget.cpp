@@ -65,7 +65,7 @@ void TestCVKIntensityWidget::initTestCase()
 {
     QLoggingCategory::setFilterRules("*.debug=false");
     const std::vector<quint16> pixels { 100, 200, 300, 400, 500, 600 };
-    QVERIFY(writeRawFile(path("frame.raw"), rawFrame(3, 2, 1, 2, bytesOf(pixels))));
+    QVERIFY(writeRawFile(path("frame.raw"), rawFile(3, 2, 1, 2, bytesOf(pixels))));
     QVERIFY(writeFile(path("frame.xyz"), "VORLAK"));
 }
 

@@ -65,7 +65,7 @@ void TestDisplayModes::initTestCase()
     QLoggingCategory::setFilterRules("*.debug=false");
     QVERIFY(writeSquareFrame(path("square.raw")));
     QVERIFY(writeRawFile(path("small.raw"),
-        rawFrame(4, 2, 1, 1, bytesOf(std::vector<uchar> { 10, 20, 30, 40, 50, 60, 70, 80 }))));
+        rawFile(4, 2, 1, 1, bytesOf(std::vector<uchar> { 10, 20, 30, 40, 50, 60, 70, 80 }))));
 }
 
 void TestDisplayModes::charts_areSetUp()

@@ -205,10 +205,10 @@ void TestDoor::initTestCase()
 {
     QLoggingCategory::setFilterRules("*.debug=false");
     QVERIFY(writeRawFile(
-        path("frame.raw"), rawFrame(imageWidth, imageHeight, 1, 2, bytesOf(samples()))));
-    QVERIFY(writeRawFile(path("empty.raw"), rawFrame(0, 0, 1, 2, QByteArray())));
+        path("frame.raw"), rawFile(imageWidth, imageHeight, 1, 2, bytesOf(samples()))));
+    QVERIFY(writeRawFile(path("empty.raw"), rawFile(0, 0, 1, 2, QByteArray())));
     const std::vector<quint16> odd { 0, 65535, 0, 65535, 0, 65535, 0, 65535, 0 };
-    QVERIFY(writeRawFile(path("odd.raw"), rawFrame(3, 3, 1, 2, bytesOf(odd))));
+    QVERIFY(writeRawFile(path("odd.raw"), rawFile(3, 3, 1, 2, bytesOf(odd))));
     QVERIFY(writeFile(path("frame.xyz"), "VORLAK"));
     QVERIFY(writeFile(path("noise.png"), "no image"));
     QVERIFY(QDir().mkpath(path("folder.raw")));

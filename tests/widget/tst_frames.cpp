@@ -51,7 +51,7 @@ struct TestFrame
         return frame;
     }
 
-    RawFrame rawFile() const { return rawFrame(width, height, channels, bytesPerSample, bytes); }
+    RawFile rawFile() const { return ::rawFile(width, height, channels, bytesPerSample, bytes); }
 };
 
 /// Samples of an irregular pattern that differs with `seed`, below 2^bits.

@@ -80,7 +80,7 @@ void TestPreview::smallImages_haveTheDisplayLevels()
     QFETCH(QString, name);
     const QByteArray samples = bytesOf<quint16>({ 1000, 1010, 1004, 1005, 1000 });
     if (name.endsWith(".raw")) {
-        QVERIFY(writeRawFile(path(name), rawFrame(5, 1, 1, 2, samples)));
+        QVERIFY(writeRawFile(path(name), rawFile(5, 1, 1, 2, samples)));
     } else {
         QVERIFY(writeImageFile(path(name), 5, 1, 1, FrameSample::Unsigned16, samples));
     }
@@ -106,7 +106,7 @@ void TestPreview::wideColors_doNotWrap()
 {
     const quint32 white = 4294967295u;
     const QByteArray samples = bytesOf<quint32>({ 0, 0, 0, white, white, white, white, 0, 0 });
-    QVERIFY(writeRawFile(path("wide.raw"), rawFrame(3, 1, 3, 4, samples)));
+    QVERIFY(writeRawFile(path("wide.raw"), rawFile(3, 1, 3, 4, samples)));
     // Blue has 15 / 128 of white: 29.88
     QCOMPARE(
         firstLine(previewOf(path("wide.raw"), bounds, 0, nullptr)), (QVector<int> { 0, 255, 29 }));
@@ -143,7 +143,7 @@ void TestPreview::largeImages_areReduced()
         samples.replace(y * 1000 + 500, 500, QByteArray(500, '\x30')); // the right half
     }
     if (name.endsWith(".raw")) {
-        QVERIFY(writeRawFile(path(name), rawFrame(1000, 500, 1, 1, samples)));
+        QVERIFY(writeRawFile(path(name), rawFile(1000, 500, 1, 1, samples)));
     } else {
         QVERIFY(writeImageFile(path(name), 1000, 500, 1, FrameSample::Unsigned8, samples));
     }
@@ -155,7 +155,7 @@ void TestPreview::largeImages_areReduced()
 
 void TestPreview::shortRawFile_isDarkWhereItEnds()
 {
-    RawFrame frame = rawFrame(2, 2, 1, 1, "\x50\x50");
+    RawFile frame = rawFile(2, 2, 1, 1, "\x50\x50");
     frame.dataSize = 4;
     QVERIFY(writeRawFile(path("short.raw"), frame));
     const QImage picture = previewOf(path("short.raw"), bounds, 0, nullptr);
@@ -186,12 +186,11 @@ void TestPreview::unreadable_data()
     row("text as raw", written("text.raw", "hello"), LoadProblem::NotReadable);
     row("other suffix", written("text.txt", "hello"), LoadProblem::UnknownSuffix);
     row("raw of 3 bytes a sample",
-        written("three.raw", rawHeaderBytesOf(rawFrame(10, 10, 1, 3, ""))),
+        written("three.raw", rawHeaderBytesOf(rawFile(10, 10, 1, 3, ""))),
         LoadProblem::UnfaithfulDepth);
-    row("raw without pixels", written("none.raw", rawHeaderBytesOf(rawFrame(0, 10, 1, 1, ""))),
+    row("raw without pixels", written("none.raw", rawHeaderBytesOf(rawFile(0, 10, 1, 1, ""))),
         LoadProblem::NoPixels);
-    row("raw beyond memory",
-        written("huge.raw", rawHeaderBytesOf(rawFrame(65535, 65535, 4, 4, ""))),
+    row("raw beyond memory", written("huge.raw", rawHeaderBytesOf(rawFile(65535, 65535, 4, 4, ""))),
         LoadProblem::NotReadable);
 }
 
@@ -206,7 +205,7 @@ void TestPreview::unreadable()
 
 void TestPreview::pixelLimit()
 {
-    QVERIFY(writeRawFile(path("limit.raw"), rawFrame(4, 5, 1, 1, QByteArray(20, 'a'))));
+    QVERIFY(writeRawFile(path("limit.raw"), rawFile(4, 5, 1, 1, QByteArray(20, 'a'))));
     LoadProblem problem = LoadProblem::None;
     QVERIFY(previewOf(path("limit.raw"), bounds, 19, &problem).isNull());
     QVERIFY(problem == LoadProblem::OverPixelLimit);
@@ -216,7 +215,7 @@ void TestPreview::pixelLimit()
 
 void TestPreview::emptyBounds()
 {
-    QVERIFY(writeRawFile(path("good.raw"), rawFrame(2, 1, 1, 1, "ab")));
+    QVERIFY(writeRawFile(path("good.raw"), rawFile(2, 1, 1, 1, "ab")));
     LoadProblem problem = LoadProblem::BadFrame;
     for (const QSize& empty : { QSize(0, 10), QSize(10, 0), QSize(-1, -1), QSize() }) {
         QVERIFY(previewOf(path("good.raw"), empty, 0, &problem).isNull());

@@ -1,9 +1,9 @@
 #undef HWY_TARGET_INCLUDE
-#define HWY_TARGET_INCLUDE "plots/peakdetection.cpp" // compiled once for each processor type
+#define HWY_TARGET_INCLUDE "analysis/peakdetection.cpp" // compiled once for each processor type
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
-#include "plots/peakdetection.h"
+#include "analysis/peakdetection.h"
 
 #include <algorithm>
 #include <array>

@@ -1,5 +1,5 @@
 #include "plainpeaks.h"
-#include "plots/peakdetection.h"
+#include "analysis/peakdetection.h"
 #include "support/simdtargets.h"
 
 #include <QtTest>

@@ -1,4 +1,4 @@
-#include "image/pixelmemory.h"
+#include "base/pixelmemory.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "panel/scaledpixels.h"
+#include "base/screenscale.h"
 
 #include <QtTest>
 
