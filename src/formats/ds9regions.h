@@ -16,16 +16,16 @@ QByteArray ds9Text(const QVector<QRect>& regions, int imageHeight);
 struct Ds9Regions
 {
     QVector<QRect> regions; ///< boxes that lie inside the image, in the order of the file
-    int otherShapes
-        = 0; ///< shapes that are no boxes, and boxes turned by other than multiples of 90 degrees
+    int otherShapes = 0; ///< shapes that are no boxes, boxes turned by other than multiples of 90
+                         ///< degrees, and excluded ones ("-box")
     int otherCoordinates = 0; ///< shapes in sky or detector coordinates
     int outside = 0; ///< boxes that do not lie inside the image, or hold no pixel of it
-    int brokenLines = 0; ///< lines that cannot be read
+    int brokenLines = 0; ///< lines, or parts of one between semicolons, that cannot be read
 
     int skipped() const { return otherShapes + otherCoordinates + outside + brokenLines; }
 };
 
 /// Reads what can be read and counts the rest; edges between two pixels go to the nearest border
-/// of pixels. Input is read up to 16 MiB and 65,536 regions; what follows counts as one broken
-/// line.
+/// of pixels. Shapes before any coordinate system is named are in image coordinates. Input is read
+/// up to 16 MiB and 65,536 regions; what follows counts as one broken line.
 Ds9Regions readDs9(const QByteArray& text, const QSize& imageSize);

@@ -21,7 +21,9 @@ struct Measurement
     std::optional<MeasuredCalibration> calibration;
 };
 
-/// One JSON object on one line, without a line end. Doubles with as many digits as it takes to read
-/// the same double back; null where there is no number. Text is UTF-8 with control characters
-/// escaped.
+/// One JSON object on one line, without a line end. `image` and `histogram` are left out where they
+/// were not asked for, lists are then empty, `calibration` is null without one, and `file` for a
+/// frame from memory. Program and version are those of the application object. Doubles with as many
+/// digits as it takes to read the same double back; null where there is no number. Text is UTF-8
+/// with control characters escaped.
 QByteArray jsonLine(const Measurement& measurement);
