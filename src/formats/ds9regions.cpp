@@ -144,10 +144,11 @@ struct Box
 /// if it is something else.
 std::optional<QVector<QByteArray>> arguments(const QByteArray& text)
 {
-    QByteArray list = text.trimmed();
-    while (list.endsWith('|')) {
-        list = list.left(int(list.size()) - 1).trimmed();
+    int length = int(text.size());
+    while (length > 0 && (text.at(length - 1) == '|' || isSpace(text.at(length - 1)))) {
+        --length;
     }
+    QByteArray list = text.left(length).trimmed();
     if (list.startsWith('(') != list.endsWith(')')) {
         return std::nullopt;
     }
