@@ -6,7 +6,7 @@ log_dir="${TMPDIR:-/tmp}/vkintensity-logs.$(id -u)"
 mkdir -p "$log_dir"
 
 run_packages="g++ cmake ninja-build qtbase5-dev libopencv-core-dev libopencv-imgcodecs-dev libhwy-dev fonts-dejavu-core qttools5-dev qttools5-dev-tools"
-test_packages="$run_packages xvfb xauth xdotool pkg-config fonts-wqy-microhei"
+test_packages="$run_packages xvfb xauth xdotool pkg-config fonts-wqy-microhei python3"
 ci_packages="$test_packages libbenchmark-dev clang clang-format binutils doxygen lintian dpkg-dev file appstream desktop-file-utils qt6-base-dev qt6-l10n-tools"
 
 fail() {
