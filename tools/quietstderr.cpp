@@ -31,6 +31,10 @@ void closeDescriptor(int descriptor)
 {
     _close(descriptor);
 }
+int written(int descriptor, const char* bytes, size_t count)
+{
+    return _write(descriptor, bytes, unsigned(count));
+}
 #else
 int duplicated(int descriptor)
 {
@@ -47,6 +51,10 @@ int openedNull()
 void closeDescriptor(int descriptor)
 {
     ::close(descriptor);
+}
+ssize_t written(int descriptor, const char* bytes, size_t count)
+{
+    return ::write(descriptor, bytes, count);
 }
 #endif
 
@@ -96,5 +104,19 @@ QuietStandardError::~QuietStandardError()
     const std::lock_guard<std::mutex> lock(guardMutex);
     if (--guardCount == 0) {
         restore(savedDescriptor);
+    }
+}
+
+void QuietStandardError::write(const std::string& text) const
+{
+    const std::lock_guard<std::mutex> lock(guardMutex);
+    const int descriptor = savedDescriptor >= 0 ? savedDescriptor : standardError;
+    size_t done = 0;
+    while (done < text.size()) {
+        const auto step = written(descriptor, text.data() + done, text.size() - done);
+        if (step <= 0) {
+            return; // there is no place left to complain to
+        }
+        done += size_t(step);
     }
 }

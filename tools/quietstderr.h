@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 /// While one lives, nothing reaches the process's standard error. The codecs of image libraries
 /// write their own complaints about damaged files there, past every logging category; programs
 /// that promise one line on failure read files under this guard. Several may live at once, in any
@@ -11,4 +13,7 @@ public:
     ~QuietStandardError();
     QuietStandardError(const QuietStandardError&) = delete;
     QuietStandardError& operator=(const QuietStandardError&) = delete;
+
+    /// Writes to the real standard error all the same.
+    void write(const std::string& text) const;
 };

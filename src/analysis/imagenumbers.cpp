@@ -1,9 +1,12 @@
 #include "analysis/imagenumbers.h"
 
+#include "analysis/valuecounts.h"
 #include "base/limits.h"
 #include "image/sampledispatch.h"
 
 #include <algorithm>
+#include <limits>
+#include <vector>
 
 namespace {
 
@@ -30,6 +33,44 @@ QVector<uint> valuesAlong(const ImageData& image, qint64 first, qint64 step, int
     return values;
 }
 
+/// Bins of a block: an eighth of the memory of the samples, within 256 KiB and 16 MiB.
+qint64 blockBinCount(qint64 samples, qint64 bins)
+{
+    return std::min(std::clamp<qint64>(samples / 8, 1 << 16, 1 << 22), bins);
+}
+
+/// All counts of small samples at once; false for so few that there are none.
+template <class Sample>
+bool visitValueCounts(
+    const Sample* samples, const RoiRows& rows, const SampleRange& range, const CountVisitor& visit)
+{
+    if constexpr (sizeof(Sample) < sizeof(uint)) {
+        const ValueCounts<Sample> counts(samples, rows);
+        if (counts.isComplete()) {
+            visit(counts.from(range.min), qint64(range.max) - range.min + 1);
+            return true;
+        }
+    }
+    return false;
+}
+
+/// One pass over the samples for each block.
+template <class Sample>
+void visitBlocks(const Sample* samples, const RoiRows& rows, const SampleRange& range, qint64 bins,
+    const CountVisitor& visit)
+{
+    const qint64 blockBins = blockBinCount(rows.pixelCount(), bins);
+    std::vector<uint> counts(static_cast<size_t>(blockBins));
+    for (qint64 bin = 0; bin < bins; bin += blockBins) {
+        std::fill(counts.begin(), counts.end(), 0U);
+        rows.forEach([&](qint64 first, qint64 count) {
+            addSampleCounts(
+                samples + first, count, uint(range.min + bin), counts.data(), uint(blockBins));
+        });
+        visit(counts.data(), std::min(blockBins, bins - bin));
+    }
+}
+
 } // namespace
 
 bool isInsideImage(const QRect& rect, const ImageData& image)
@@ -48,6 +89,23 @@ std::optional<RoiStatistics> rectStatistics(const ImageData& image, const QRect&
         });
     }
     return statistics;
+}
+
+double signalToNoise(const RoiStatistics& statistics)
+{
+    return statistics.deviation > 0.0 ? statistics.mean / statistics.deviation
+                                      : std::numeric_limits<double>::quiet_NaN();
+}
+
+std::optional<SampleRange> rectRange(const ImageData& image, const QRect& rect)
+{
+    std::optional<SampleRange> range;
+    if (isInsideImage(rect, image)) {
+        forSampleWidth(image, [&](const auto* samples) {
+            range = roiTotals(samples, rowsOf(image, rect, sizeof(*samples))).range;
+        });
+    }
+    return range;
 }
 
 std::optional<ValueHistogram> rectHistogram(const ImageData& image, const QRect& rect)
@@ -72,6 +130,21 @@ std::optional<ValueHistogram> rectHistogram(const ImageData& image, const QRect&
     return histogram;
 }
 
+bool forEachCountBlock(
+    const ImageData& image, const QRect& rect, const SampleRange& range, const CountVisitor& visit)
+{
+    const qint64 bins = qint64(range.max) - range.min + 1;
+    if (!isInsideImage(rect, image) || bins < 1 || bins > histogramBinLimit) {
+        return false;
+    }
+    return forSampleWidth(image, [&](const auto* samples) {
+        const RoiRows rows = rowsOf(image, rect, sizeof(*samples));
+        if (!visitValueCounts(samples, rows, range, visit)) {
+            visitBlocks(samples, rows, range, bins, visit);
+        }
+    });
+}
+
 QVector<uint> rowValues(const ImageData& image, int y)
 {
     if (!image.isLoaded() || y < 0 || y >= image.height) {
@@ -86,6 +159,15 @@ QVector<uint> columnValues(const ImageData& image, int x)
         return {};
     }
     return valuesAlong(image, x, image.width, image.height);
+}
+
+std::optional<DisplayLevels> displayLevels(const SampleRange& range)
+{
+    const uint bins = range.max - range.min + 1;
+    if (range.max < range.min || bins == 0) {
+        return std::nullopt;
+    }
+    return DisplayLevels { range.min, bins, displayScale(0, 255, range.min, range.max), nullptr };
 }
 
 QVector<uchar> levelsOf(const QVector<uint>& values, const DisplayLevels& levels)

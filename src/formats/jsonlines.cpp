@@ -68,19 +68,8 @@ void integers(TextWriter& out, const QVector<quint32>& values)
     list(out, values, [&out](quint32 value) { out.integer(value); });
 }
 
-void histogramObject(TextWriter& out, const MeasuredHistogram& histogram)
-{
-    out.reserve(qint64(histogram.counts.size()) * 2);
-    out.character('{');
-    integerField(out, "first", histogram.first, true);
-    name(out, "counts");
-    integers(out, histogram.counts);
-    out.character('}');
-}
-
-/// `histogram` may be null.
-void regionObject(
-    TextWriter& out, const RegionStatistics& region, const MeasuredHistogram* histogram)
+/// Without the closing brace.
+void openRegion(TextWriter& out, const RegionStatistics& region)
 {
     out.character('{');
     integerField(out, "x", region.rect.x(), true);
@@ -93,11 +82,6 @@ void regionObject(
     integerField(out, "maximum", region.maximum);
     realField(out, "deviation", region.deviation);
     realField(out, "signal_to_noise", region.signalToNoise);
-    if (histogram) {
-        name(out, "histogram");
-        histogramObject(out, *histogram);
-    }
-    out.character('}');
 }
 
 void peakObject(TextWriter& out, const MeasuredPeak& peak)
@@ -137,23 +121,6 @@ void sourceFields(TextWriter& out, const MeasurementSource& source)
     integerField(out, "bits", source.bits);
 }
 
-void regionsField(TextWriter& out, const Measurement& measurement)
-{
-    name(out, "regions");
-    int index = 0;
-    list(out, measurement.regions, [&](const RegionStatistics& region) {
-        const bool hasHistogram = index < int(measurement.regionHistograms.size());
-        regionObject(out, region, hasHistogram ? &measurement.regionHistograms.at(index) : nullptr);
-        ++index;
-    });
-}
-
-void profilesField(TextWriter& out, const char* fieldName, const QVector<MeasuredProfile>& profiles)
-{
-    name(out, fieldName);
-    list(out, profiles, [&out](const MeasuredProfile& profile) { profileObject(out, profile); });
-}
-
 void calibrationField(TextWriter& out, const std::optional<MeasuredCalibration>& calibration)
 {
     name(out, "calibration");
@@ -171,27 +138,171 @@ void calibrationField(TextWriter& out, const std::optional<MeasuredCalibration>&
 
 } // namespace
 
+JsonLineWriter::JsonLineWriter(const MeasurementSource& source)
+{
+    m_out.character('{');
+    sourceFields(m_out, source);
+}
+
+void JsonLineWriter::image(const RegionStatistics& region)
+{
+    enter(Part::Image);
+    name(m_out, "image");
+    openRegion(m_out, region);
+    m_out.character('}');
+}
+
+void JsonLineWriter::region(const RegionStatistics& region)
+{
+    enter(Part::Regions);
+    closeRegion();
+    beginItem();
+    openRegion(m_out, region);
+    m_isRegionOpen = true;
+}
+
+void JsonLineWriter::row(const MeasuredProfile& profile)
+{
+    enter(Part::Rows);
+    beginItem();
+    profileObject(m_out, profile);
+}
+
+void JsonLineWriter::column(const MeasuredProfile& profile)
+{
+    enter(Part::Columns);
+    beginItem();
+    profileObject(m_out, profile);
+}
+
+void JsonLineWriter::regionHistogram(quint32 first)
+{
+    beginHistogram(first);
+}
+
+void JsonLineWriter::imageHistogram(quint32 first)
+{
+    enter(Part::Histogram);
+    beginHistogram(first);
+}
+
+void JsonLineWriter::counts(const quint32* counts, qint64 count)
+{
+    m_out.reserve(count * 2); // a digit and a comma, at least
+    for (qint64 i = 0; i < count; ++i) {
+        if (m_hasCount) {
+            m_out.character(',');
+        }
+        m_hasCount = true;
+        m_out.integer(counts[i]);
+    }
+}
+
+void JsonLineWriter::end(const std::optional<MeasuredCalibration>& calibration)
+{
+    enter(Part::End);
+    calibrationField(m_out, calibration);
+    name(m_out, "program");
+    string(m_out, QCoreApplication::applicationName());
+    name(m_out, "version");
+    string(m_out, QCoreApplication::applicationVersion());
+    m_out.character('}');
+}
+
+/// Finishes the part that is written and begins the next ones up to `part`: lists are there even
+/// when they are empty.
+void JsonLineWriter::enter(Part part)
+{
+    while (m_part < part) {
+        finish(m_part);
+        m_part = Part(int(m_part) + 1);
+        begin(m_part);
+    }
+}
+
+void JsonLineWriter::begin(Part part)
+{
+    const char* const listName = part == Part::Regions ? "regions"
+        : part == Part::Rows                           ? "rows"
+        : part == Part::Columns                        ? "columns"
+                                                       : nullptr;
+    if (listName) {
+        name(m_out, listName);
+        m_out.character('[');
+        m_hasItem = false;
+    }
+}
+
+void JsonLineWriter::finish(Part part)
+{
+    closeRegion();
+    closeHistogram();
+    if (part == Part::Regions || part == Part::Rows || part == Part::Columns) {
+        m_out.character(']');
+    }
+}
+
+void JsonLineWriter::beginItem()
+{
+    if (m_hasItem) {
+        m_out.character(',');
+    }
+    m_hasItem = true;
+}
+
+void JsonLineWriter::beginHistogram(quint32 first)
+{
+    name(m_out, "histogram");
+    m_out.character('{');
+    integerField(m_out, "first", first, true);
+    name(m_out, "counts");
+    m_out.character('[');
+    m_isHistogramOpen = true;
+    m_hasCount = false;
+}
+
+void JsonLineWriter::closeHistogram()
+{
+    if (m_isHistogramOpen) {
+        m_out.text("]}");
+        m_isHistogramOpen = false;
+    }
+}
+
+void JsonLineWriter::closeRegion()
+{
+    closeHistogram();
+    if (m_isRegionOpen) {
+        m_out.character('}');
+        m_isRegionOpen = false;
+    }
+}
+
 QByteArray jsonLine(const Measurement& measurement)
 {
-    TextWriter out;
-    out.character('{');
-    sourceFields(out, measurement.source);
+    JsonLineWriter line(measurement.source);
     if (measurement.image) {
-        name(out, "image");
-        regionObject(out, *measurement.image, nullptr);
+        line.image(*measurement.image);
     }
-    regionsField(out, measurement);
-    profilesField(out, "rows", measurement.rows);
-    profilesField(out, "columns", measurement.columns);
+    for (int i = 0; i < int(measurement.regions.size()); ++i) {
+        line.region(measurement.regions.at(i));
+        if (i < int(measurement.regionHistograms.size())) {
+            const MeasuredHistogram& histogram = measurement.regionHistograms.at(i);
+            line.regionHistogram(histogram.first);
+            line.counts(histogram.counts.constData(), histogram.counts.size());
+        }
+    }
+    for (const MeasuredProfile& profile : measurement.rows) {
+        line.row(profile);
+    }
+    for (const MeasuredProfile& profile : measurement.columns) {
+        line.column(profile);
+    }
     if (measurement.histogram) {
-        name(out, "histogram");
-        histogramObject(out, *measurement.histogram);
+        line.imageHistogram(measurement.histogram->first);
+        line.counts(
+            measurement.histogram->counts.constData(), measurement.histogram->counts.size());
     }
-    calibrationField(out, measurement.calibration);
-    name(out, "program");
-    string(out, QCoreApplication::applicationName());
-    name(out, "version");
-    string(out, QCoreApplication::applicationVersion());
-    out.character('}');
-    return out.take();
+    line.end(measurement.calibration);
+    return line.take();
 }

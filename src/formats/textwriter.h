@@ -23,6 +23,8 @@ public:
     /// no number: null takes "nan", "inf" and "-inf".
     void real(double value, const char* notFinite = nullptr);
 
+    int size() const { return m_used; } ///< bytes written since the last take()
+
     /// What was written. The writer is empty afterwards.
     QByteArray take();
 

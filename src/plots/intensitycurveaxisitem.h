@@ -4,7 +4,7 @@
 #include "plots/columnmap.h"
 #include "plots/intensitycurvelayoutitem.h"
 #include "analysis/peakdetection.h"
-#include "plots/valuerange.h"
+#include "base/valuerange.h"
 
 /// Large chart of one whole profile that never loses a peak, however many samples share a column.
 /// Finds the peaks, marks the strongest with ticks and stacked labels, and lets the user pick a

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "plots/columnmap.h"
-#include "plots/valuerange.h"
+#include "base/valuerange.h"
 
 #include <QString>
 

@@ -2,7 +2,7 @@
 
 #include "canvas/componentitem.h"
 #include "plots/rulerscale.h"
-#include "plots/valuerange.h"
+#include "base/valuerange.h"
 
 #include <QGraphicsLayoutItem>
 #include <QRect>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plots/valuerange.h"
+#include "base/valuerange.h"
 
 #include <QLineF>
 #include <QPoint>

@@ -1,5 +1,6 @@
 #include "widget/cvkintensitymdiwidget.h"
 
+#include "analysis/profilenumbers.h"
 #include "canvas/imagelayoutitem.h"
 #include "base/saturate.h"
 #include "base/screenscale.h"
@@ -340,12 +341,12 @@ void CVKIntensityMdiWidget::changedPixelsToWavelength(double startX, double pixe
     if (!m_image.isLoaded()) {
         return;
     }
-    const double rowEnd = startX + m_image.width * pixelWidth;
+    const double rowEnd = wavelengthRange(startX, pixelWidth, m_image.width).end;
     m_bottomRuler->changedShowValueRange(startX, rowEnd);
     m_rowChart.pixelRuler->changedShowValueRange(startX, rowEnd);
     m_rowChart.curve->changedShowValueRange(startX, rowEnd);
     // Deliberate: the column gets wavelengths, too.
-    const double columnEnd = startX + m_image.height * pixelWidth;
+    const double columnEnd = wavelengthRange(startX, pixelWidth, m_image.height).end;
     m_leftRuler->changedShowValueRange(startX, columnEnd);
     m_columnChart.pixelRuler->changedShowValueRange(startX, columnEnd);
     m_columnChart.curve->changedShowValueRange(startX, columnEnd);

@@ -4,25 +4,16 @@
 #include "widget/cvkintensitywidget.h"
 
 #include "analysis/imagenumbers.h"
+#include "analysis/profilenumbers.h"
 #include "plots/intensitycurveaxisitem.h"
-#include "analysis/peakdetection.h"
 #include "widget/cvkintensitymdiwidget.h"
 #include "widget/intensitydoor.h"
 
-#include <algorithm>
-#include <limits>
 #include <new>
 
 namespace {
 
 using Profile = CVKIntensityWidget::Profile;
-
-/// Pixel number as the chart of the profile counts it: a column from the bottom row upward.
-int chartIndex(const Profile& profile, int pixel)
-{
-    const bool isRow = profile.axis == CVKIntensityWidget::Axis::Row;
-    return isRow ? pixel : int(profile.levels.size()) - 1 - pixel;
-}
 
 /// Adds the levels and the calibration that the chart of this axis has.
 void addChartScale(Profile& profile, const CVKIntensityMdiWidget& host)
@@ -34,12 +25,11 @@ void addChartScale(Profile& profile, const CVKIntensityMdiWidget& host)
     const bool isRow = profile.axis == CVKIntensityWidget::Axis::Row;
     const IntensityCurveAxisItem& curve
         = isRow ? *host.rowChart().curve : *host.columnChart().curve;
-    const ValueRange range { curve.rangeStart(), curve.rangeEnd() };
-    if (range.isCalibrated() && !profile.values.isEmpty()) {
-        profile.isCalibrated = true;
-        profile.start = range.start;
-        profile.step = (range.end - range.start) / double(profile.values.size());
-    }
+    const ProfileScale scale = profileScale(
+        { curve.rangeStart(), curve.rangeEnd() }, int(profile.values.size()), !isRow);
+    profile.isCalibrated = scale.isCalibrated;
+    profile.start = scale.start;
+    profile.step = scale.step;
 }
 
 } // namespace
@@ -58,8 +48,7 @@ CVKIntensityWidget::Statistics CVKIntensityWidget::statistics(const QRect& pixel
     statistics.minimum = found->range.min;
     statistics.maximum = found->range.max;
     statistics.deviation = found->deviation;
-    statistics.signalToNoise = found->deviation > 0.0 ? found->mean / found->deviation
-                                                      : std::numeric_limits<double>::quiet_NaN();
+    statistics.signalToNoise = signalToNoise(*found);
     return statistics;
 }
 
@@ -112,16 +101,10 @@ QVector<CVKIntensityWidget::Peak> CVKIntensityWidget::peaks(const Profile& profi
         return {};
     }
     try {
-        QVector<uchar> levels = profile.levels;
-        if (profile.axis == Axis::Column) {
-            std::reverse(levels.begin(), levels.end()); // equal peaks rank as in the chart
-        }
-        const DetectedPeaks detected = detectPeaks(levels.constData(), int(levels.size()));
         QVector<Peak> peaks;
-        const int found = std::min({ count, peakCapacity, int(detected.peaks.size()) });
-        for (int i = 0; i < found; ++i) {
-            const int pixel = chartIndex(profile, detected.peaks.at(i).index);
-            peaks.append({ i + 1, pixel, profile.position(pixel), profile.values.at(pixel) });
+        for (const int pixel : rankedPeaks(profile.levels, profile.axis == Axis::Column, count)) {
+            peaks.append({ int(peaks.size()) + 1, pixel, profile.position(pixel),
+                profile.values.at(pixel) });
         }
         return peaks;
     } catch (const std::bad_alloc&) {

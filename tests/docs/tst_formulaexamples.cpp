@@ -7,7 +7,7 @@
 #include "plots/rulerbarhorizontal.h"
 #include "plots/rulerbarvertical.h"
 #include "plots/rulerscale.h"
-#include "plots/valuerange.h"
+#include "base/valuerange.h"
 #include "widget/readout.h"
 
 #include <QLabel>

@@ -1,4 +1,4 @@
-#include "plots/valuerange.h"
+#include "base/valuerange.h"
 
 #include <QtTest>
 
