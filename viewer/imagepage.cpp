@@ -58,6 +58,12 @@ QWidget* ImagePage::canvas()
     return m_access.canvas();
 }
 
+bool ImagePage::hasCanvasFocus() const
+{
+    const QWidget* const canvas = m_access.canvas();
+    return canvas && canvas->hasFocus();
+}
+
 bool ImagePage::load(const QString& path)
 {
     if (!intensityWidget()->loadImage(path)) {

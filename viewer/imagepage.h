@@ -30,6 +30,9 @@ public:
     /// The canvas alone, without the panel.
     QWidget* canvas();
 
+    /// Whether keys go to the canvas.
+    bool hasCanvasFocus() const;
+
 public Q_SLOTS:
     /// The Return button of the intensity widget calls this by name.
     void sltSwitchToGallery();

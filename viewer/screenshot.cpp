@@ -1,7 +1,7 @@
 #include "screenshot.h"
 
 #include "commandline.h"
-#include "picturefile.h"
+#include "filesaver.h"
 #include "quietstderr.h"
 #include "viewerwindow.h"
 

@@ -5,11 +5,15 @@
 #include "plainlabel.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QEvent>
 #include <QLocale>
 #include <QProgressBar>
 
 namespace {
+
+constexpr int messageMilliseconds = 4000;
+constexpr int messageMargin = 8; // pixels that QStatusBar leaves beside a message, and some
 
 /// "12 ms", or "1.4 s" from a second on.
 QString durationText(qint64 milliseconds)
@@ -71,6 +75,18 @@ void StatusLine::showImage(const QString& summary, qint64 milliseconds)
 {
     m_summary->setText(summary);
     m_time->setText(durationText(milliseconds));
+}
+
+void StatusLine::tell(const QString& text)
+{
+    showMessage(text, messageMilliseconds);
+}
+
+void StatusLine::tellSaved(const QString& path)
+{
+    const QString text = tr("Saved as %1").arg(QDir::toNativeSeparators(path).simplified());
+    const int room = m_summary->x() - 2 * messageMargin;
+    tell(fontMetrics().elidedText(text, Qt::ElideMiddle, room));
 }
 
 void StatusLine::hideTime()

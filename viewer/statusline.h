@@ -30,6 +30,12 @@ public:
     /// Adds what is known about the image behind the name.
     void showImage(const QString& summary, qint64 milliseconds);
 
+    /// Says something for a few seconds, in place of the name.
+    void tell(const QString& text);
+
+    /// Says likewise where a file was saved, with the middle left out of a path that is too long.
+    void tellSaved(const QString& path);
+
     /// Leaves the time out from now on.
     void hideTime();
 

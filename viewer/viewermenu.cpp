@@ -76,9 +76,23 @@ void ViewerMenu::buildFileMenu()
     menu->addSeparator();
     add(menu, ViewerCommand::SaveScreenshot, "actionSaveScreenshot", tr("&Save Screenshot..."),
         { QKeySequence("Ctrl+S") });
+    addOutput(menu);
     menu->addSeparator();
     add(menu, ViewerCommand::Close, "actionClose", tr("&Close"), { QKeySequence("Ctrl+W") });
     add(menu, ViewerCommand::Quit, "actionQuit", tr("&Quit"), { QKeySequence("Ctrl+Q") });
+}
+
+/// Files made from the image in front, and paper.
+void ViewerMenu::addOutput(QMenu* menu)
+{
+    add(menu, ViewerCommand::SavePicture, "actionSavePicture", tr("Save P&icture..."), {},
+        Needs::Image);
+    add(menu, ViewerCommand::SaveVisiblePart, "actionSaveVisiblePart", tr("Save &Visible Part..."),
+        {}, Needs::Image);
+    add(menu, ViewerCommand::ExportNumbers, "actionExportNumbers", tr("&Export Numbers..."),
+        { QKeySequence("Ctrl+E") }, Needs::Image);
+    menu->addSeparator();
+    add(menu, ViewerCommand::Print, "actionPrint", tr("Prin&t..."), { QKeySequence("Ctrl+P") });
 }
 
 /// The entries stay and change their texts: one of them may just be the caller of what changes
@@ -100,10 +114,14 @@ void ViewerMenu::buildRecentMenu(QMenu* menu)
 void ViewerMenu::buildEditMenu()
 {
     QMenu* menu = addMenu(tr("&Edit"));
-    add(menu, ViewerCommand::CopyWindow, "actionCopyWindow", tr("&Copy Window"),
-        { QKeySequence("Ctrl+C") });
+    add(menu, ViewerCommand::CopyWindow, "actionCopyWindow", tr("&Copy Window"), {})
+        ->setWhatsThis(tr("Copy Window or Value"));
     add(menu, ViewerCommand::CopyCanvas, "actionCopyCanvas", tr("Copy C&anvas"),
         { QKeySequence("Ctrl+Shift+C") }, Needs::Image);
+    add(menu, ViewerCommand::CopyNumbers, "actionCopyNumbers", tr("Copy &Numbers..."), {},
+        Needs::Image);
+    add(menu, ViewerCommand::CopyValue, "actionCopyValue", tr("Copy &Value"), {}, Needs::Image);
+    setCopyKey(false);
     menu->addSeparator();
     add(menu, ViewerCommand::DeleteRegion, "actionDeleteRegion", tr("&Delete Region"),
         { QKeySequence(Qt::Key_Delete) });
@@ -202,6 +220,15 @@ void ViewerMenu::setRecentFiles(const QStringList& texts)
         m_recentActions[i]->setVisible(i < texts.size());
     }
     m_recent->setEnabled(!texts.isEmpty());
+}
+
+void ViewerMenu::setCopyKey(bool copiesValue)
+{
+    const QKeySequence copy("Ctrl+C");
+    QAction* const window = action(ViewerCommand::CopyWindow);
+    QAction* const value = action(ViewerCommand::CopyValue);
+    (copiesValue ? window : value)->setShortcut(QKeySequence()); // one key never means both
+    (copiesValue ? value : window)->setShortcut(copy);
 }
 
 void ViewerMenu::markFullScreen(bool isFull)

@@ -23,10 +23,16 @@ enum class ViewerCommand {
     Previous,
     Reload,
     SaveScreenshot,
+    SavePicture,
+    SaveVisiblePart,
+    ExportNumbers,
+    Print,
     Close,
     Quit,
     CopyWindow,
     CopyCanvas,
+    CopyNumbers,
+    CopyValue,
     DeleteRegion,
     ZoomIn,
     ZoomOut,
@@ -65,6 +71,9 @@ public:
 
     void markFullScreen(bool isFull);
 
+    /// Whether Ctrl+C copies the value under the cross-hair; else it copies the window.
+    void setCopyKey(bool copiesValue);
+
     /// Every key, in the order of the menus.
     QVector<HelpLine> keys() const;
 
@@ -78,6 +87,7 @@ private:
     QAction* add(QMenu* menu, ViewerCommand command, const char* name, const QString& text,
         const QList<QKeySequence>& keys, Needs needs = Needs::Nothing);
     void buildFileMenu();
+    void addOutput(QMenu* menu);
     void buildRecentMenu(QMenu* menu);
     void buildEditMenu();
     void buildViewMenu();

@@ -7,15 +7,17 @@
 #include "imagefiles.h"
 #include "imagepage.h"
 #include "imagetexts.h"
+#include "numbercommands.h"
 #include "pages.h"
-#include "picturefile.h"
+#include "picturecommands.h"
+#include "printcommand.h"
 #include "readahead.h"
 #include "statusline.h"
 #include "viewermenu.h"
+#include "waitcursor.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QClipboard>
 #include <QCloseEvent>
 #include <QDir>
 #include <QDragEnterEvent>
@@ -33,16 +35,6 @@
 
 namespace {
 
-/// Shows the wait cursor while it lives.
-class WaitCursor
-{
-public:
-    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
-    Q_DISABLE_COPY(WaitCursor)
-};
-
-constexpr int messageMilliseconds = 4000;
 constexpr int vanishMilliseconds = 30;
 
 } // namespace
@@ -74,12 +66,9 @@ void ViewerWindow::createMenu()
         { ViewerCommand::Next, &ViewerWindow::showNext },
         { ViewerCommand::Previous, &ViewerWindow::showPrevious },
         { ViewerCommand::Reload, &ViewerWindow::reload },
-        { ViewerCommand::SaveScreenshot, &ViewerWindow::saveScreenshot },
         { ViewerCommand::Close, &ViewerWindow::closeFile },
         { ViewerCommand::Quit, &ViewerWindow::quit },
         { ViewerCommand::ClearRecentFiles, &ViewerWindow::clearRecentFiles },
-        { ViewerCommand::CopyWindow, &ViewerWindow::copyWindow },
-        { ViewerCommand::CopyCanvas, &ViewerWindow::copyCanvas },
         { ViewerCommand::FullScreen, &ViewerWindow::toggleFullScreen },
         { ViewerCommand::LeaveFullScreen, &ViewerWindow::toggleFullScreen },
         { ViewerCommand::Help, &ViewerWindow::showHelp },
@@ -90,6 +79,9 @@ void ViewerWindow::createMenu()
     }
     connect(m_menu, &ViewerMenu::recentFileChosen, this, &ViewerWindow::openRecentFile);
     connectImage();
+    new PictureCommands(this, *m_menu, m_imagePage, m_status);
+    new NumberCommands(this, m_menu, m_imagePage, m_status);
+    new PrintCommand(this, *m_menu, m_imagePage, m_status);
 }
 
 /// What the menus do to the image in front.
@@ -117,7 +109,7 @@ void ViewerWindow::connectImage()
 void ViewerWindow::choosePalette(const QString& name)
 {
     if (!m_imagePage->intensityWidget()->setColorPalette(name)) {
-        m_status->showMessage(tr("The palette %1 cannot be read.").arg(name), messageMilliseconds);
+        m_status->tell(tr("The palette %1 cannot be read.").arg(name));
     }
 }
 
@@ -228,17 +220,18 @@ void ViewerWindow::showProblem(const QString& path)
 void ViewerWindow::nameFile(const QString& path)
 {
     const QFileInfo file(path);
-    nameWindow(file.fileName(), QDir::toNativeSeparators(file.absoluteFilePath()));
+    nameWindow(file.fileName(), file.absoluteFilePath());
 }
 
-/// Title of the window and text of the status line.
-void ViewerWindow::nameWindow(const QString& shown, const QString& status)
+/// Title of the window and text of the status line; `path` is empty for no image.
+void ViewerWindow::nameWindow(const QString& shown, const QString& path)
 {
     const QString application = tr("VKIntensity Viewer");
     const QString name = shown.simplified();
     setWindowTitle(name.isEmpty() ? application : name + " - " + application);
     m_status->clearMessage(); // about what was shown before
-    m_status->showName(status);
+    m_status->showName(path.isEmpty() ? tr("No image") : QDir::toNativeSeparators(path));
+    setWindowFilePath(path); // files are saved under a name made from it
 }
 
 QString ViewerWindow::problem() const
@@ -287,7 +280,7 @@ void ViewerWindow::showGallery(const QString& folder)
     m_folder = m_galleryPage->folder();
     showPage(m_galleryPage);
     m_galleryPage->setFocus();
-    nameWindow(QDir(m_folder).dirName(), QDir::toNativeSeparators(m_folder));
+    nameWindow(QDir(m_folder).dirName(), m_folder);
 }
 
 void ViewerWindow::showMenuGallery()
@@ -310,7 +303,7 @@ void ViewerWindow::showWelcome()
     releaseImage();
     m_galleryPage->stopLoading();
     showPage(m_welcomePage);
-    nameWindow(QString(), tr("No image"));
+    nameWindow(QString(), QString());
 }
 
 void ViewerWindow::releaseImage()
@@ -353,7 +346,7 @@ void ViewerWindow::showNeighbour(int step, const QString& lackOfOne)
 {
     const QString path = neighbourInFolder(m_file, step);
     if (path.isEmpty()) {
-        m_status->showMessage(lackOfOne, messageMilliseconds);
+        m_status->tell(lackOfOne);
     } else {
         openFile(path);
     }
@@ -431,38 +424,6 @@ void ViewerWindow::clearRecentFiles()
 {
     m_session.clearRecentFiles();
     updateMenu();
-}
-
-void ViewerWindow::copyWindow()
-{
-    QApplication::clipboard()->setPixmap(grab());
-    m_status->showMessage(tr("The window is on the clipboard."), messageMilliseconds);
-}
-
-void ViewerWindow::copyCanvas()
-{
-    QApplication::clipboard()->setPixmap(m_imagePage->canvas()->grab());
-    m_status->showMessage(tr("The canvas is on the clipboard."), messageMilliseconds);
-}
-
-void ViewerWindow::saveScreenshot()
-{
-    const QPixmap picture = grab(); // before the dialog covers it
-    const bool isGallery = m_pages->currentWidget() == m_galleryPage;
-    const QString shown
-        = isGallery ? QDir(m_folder).dirName() : QFileInfo(m_file).completeBaseName();
-    const QString path = choosePictureFile(
-        this, m_pictureFolder, shown.isEmpty() ? "screenshot" : shown + "-screenshot");
-    if (path.isEmpty()) {
-        return;
-    }
-    const QString problem = savePicture(picture, path);
-    if (problem.isEmpty()) {
-        m_pictureFolder = QFileInfo(path).absolutePath();
-        m_status->showMessage(tr("The screenshot is saved."), messageMilliseconds);
-    } else {
-        QMessageBox::warning(this, tr("Save Screenshot"), problem);
-    }
 }
 
 void ViewerWindow::toggleFullScreen()

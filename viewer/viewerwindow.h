@@ -83,13 +83,6 @@ public Q_SLOTS:
     void openRecentFile(int index);
     void clearRecentFiles();
 
-    /// To the clipboard: all of the window, or the canvas with what is drawn on it.
-    void copyWindow();
-    void copyCanvas();
-
-    /// Asks for a file name and saves the window there as a PNG picture.
-    void saveScreenshot();
-
     void toggleFullScreen();
     void showHelp();
     void showAbout();
@@ -118,7 +111,7 @@ private:
     void showProblem(const QString& path);
     void showNeighbour(int step, const QString& lackOfOne);
     void nameFile(const QString& path);
-    void nameWindow(const QString& shown, const QString& status);
+    void nameWindow(const QString& shown, const QString& path);
 
     QStackedWidget* m_pages = nullptr;
     WelcomePage* m_welcomePage = nullptr;
@@ -132,6 +125,5 @@ private:
     SessionStore m_session;
     QString m_folder; // of the file last opened, or the one of the gallery; empty before any
     QString m_file; // last opened; absolute
-    QString m_pictureFolder; // where a screenshot was saved; empty before any
     DisplaySettings m_settingsToKeep; // of an image whose reload has failed
 };

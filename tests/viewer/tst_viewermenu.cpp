@@ -125,8 +125,7 @@ void TestViewerMenu::cleanup()
 
 void TestViewerMenu::press(const char* keys)
 {
-    QApplication::setActiveWindow(m_viewer->window.get()); // no window manager does after a dialog
-    QTest::keySequence(m_viewer->window.get(), QKeySequence(keys));
+    m_viewer->press(keys);
 }
 
 QStringList TestViewerMenu::entries(int menu) const
@@ -143,8 +142,12 @@ void TestViewerMenu::structure()
     QCOMPARE(m_viewer->window->menuBar()->actions().size(), 4);
     QCOMPARE(entries(0),
         (QStringList { "&Open...", "Open &Folder...", "Open &Recent", "&Gallery", "", "&Next Image",
-            "&Previous Image", "Re&load", "", "&Save Screenshot...", "", "&Close", "&Quit" }));
-    QCOMPARE(entries(1), (QStringList { "&Copy Window", "Copy C&anvas", "", "&Delete Region" }));
+            "&Previous Image", "Re&load", "", "&Save Screenshot...", "Save P&icture...",
+            "Save &Visible Part...", "&Export Numbers...", "", "Prin&t...", "", "&Close",
+            "&Quit" }));
+    QCOMPARE(entries(1),
+        (QStringList { "&Copy Window", "Copy C&anvas", "Copy &Numbers...", "Copy &Value", "",
+            "&Delete Region" }));
     QCOMPARE(entries(2),
         (QStringList { "Zoom &In", "Zoom &Out", "", "I&mage", "2D Chart of the &Row",
             "2D Chart of the &Column", "", "&Palette", "", "&Full Screen" }));
@@ -189,13 +192,15 @@ void TestViewerMenu::everyEntry_byMouse_data()
 {
     QTest::addColumn<int>("menu");
     QTest::addColumn<QString>("name");
-    const QVector<QStringList> menus { { "actionOpen", "actionOpenFolder", "actionGallery",
-                                           "actionNext", "actionPrevious", "actionReload",
-                                           "actionSaveScreenshot", "actionClose", "actionQuit" },
-        { "actionCopyWindow", "actionCopyCanvas" },
+    const QVector<QStringList> menus {
+        { "actionOpen", "actionOpenFolder", "actionGallery", "actionNext", "actionPrevious",
+            "actionReload", "actionSaveScreenshot", "actionSavePicture", "actionSaveVisiblePart",
+            "actionExportNumbers", "actionPrint", "actionClose", "actionQuit" },
+        { "actionCopyWindow", "actionCopyCanvas", "actionCopyNumbers", "actionCopyValue" },
         { "actionZoomIn", "actionZoomOut", "actionImageView", "actionRowChart", "actionColumnChart",
             "actionFullScreen" },
-        { "actionHelp", "actionAbout" } };
+        { "actionHelp", "actionAbout" }
+    };
     for (int menu = 0; menu < menus.size(); ++menu) {
         for (const QString& name : menus[menu]) {
             QTest::newRow(qPrintable(name)) << menu << name;
@@ -405,7 +410,8 @@ void TestViewerMenu::saveScreenshot()
     press("Ctrl+S");
     const QImage picture(m_viewer->path("picture.png"));
     QCOMPARE(picture.size(), m_viewer->window->size());
-    QCOMPARE(m_viewer->window->statusBar()->currentMessage(), QString("The screenshot is saved."));
+    QCOMPARE(m_viewer->window->statusBar()->currentMessage(),
+        "Saved as " + m_viewer->path("picture.png"));
 }
 
 void TestViewerMenu::saveScreenshot_suggestsNameAndFolder()

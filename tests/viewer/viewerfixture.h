@@ -6,6 +6,7 @@
 #include "viewerwindow.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QLabel>
 #include <QStackedWidget>
 #include <QTemporaryDir>
@@ -56,6 +57,13 @@ public:
         }
         QString problem;
         QVERIFY2(writeRawFrame(path(name), frame, &problem), qPrintable(problem));
+    }
+
+    /// No window manager activates the window after a dialog.
+    void press(const char* keys) const
+    {
+        QApplication::setActiveWindow(window.get());
+        QTest::keySequence(window.get(), QKeySequence(keys));
     }
 
     QAction* action(const char* name) const { return window->findChild<QAction*>(name); }
