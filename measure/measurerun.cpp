@@ -157,12 +157,12 @@ QString MeasureRun::lineProblem(const QSize& size) const
 {
     for (const int row : m_options.rows) {
         if (row >= size.height()) {
-            return QString("there is no row %1 (--row) in its %2").arg(row).arg(size.height());
+            return QString("there is no row %1 (--row), only %2 from 0").arg(row).arg(size.height());
         }
     }
     for (const int column : m_options.columns) {
         if (column >= size.width()) {
-            return QString("there is no column %1 (--column) in its %2")
+            return QString("there is no column %1 (--column), only %2 from 0")
                 .arg(column)
                 .arg(size.width());
         }
