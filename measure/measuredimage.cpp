@@ -1,18 +1,24 @@
 #include "measuredimage.h"
 
 #include "image/imageloadregistry.h"
+#include "pictureloader.h"
 #include "problemtexts.h"
 
 QString MeasuredImage::load(const QString& path, int page)
 {
-    ImageLoadRegistry loaders;
+    ImageLoadRegistry loaders(std::make_unique<PictureLoader>());
     ReadOptions options;
     options.reading = Reading::Faithful;
     options.page = page;
     ReadReport report;
     loaders.load(path, &m_image, options, &report);
     if (report.problem != LoadProblem::None) {
-        return problemText(path, report.problem);
+        const bool isRefusedByLoader = report.problem == LoadProblem::NotReadable;
+        const QString moduleProblem
+            = isRefusedByLoader && !path.endsWith(".raw", Qt::CaseInsensitive)
+            ? PictureLoader::moduleProblem()
+            : QString();
+        return moduleProblem.isEmpty() ? problemText(path, report.problem) : moduleProblem;
     }
     m_image.convertToGray();
     m_source = { path, report.page, QSize(m_image.width, m_image.height), m_image.bitDepth };

@@ -157,7 +157,9 @@ QString MeasureRun::lineProblem(const QSize& size) const
 {
     for (const int row : m_options.rows) {
         if (row >= size.height()) {
-            return QString("there is no row %1 (--row), only %2 from 0").arg(row).arg(size.height());
+            return QString("there is no row %1 (--row), only %2 from 0")
+                .arg(row)
+                .arg(size.height());
         }
     }
     for (const int column : m_options.columns) {

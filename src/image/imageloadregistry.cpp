@@ -1,16 +1,18 @@
 #include "image/imageloadregistry.h"
 
-#include "image/imageloadcv.h"
+#include "image/imageloadbase.h"
 #include "image/imageloadvk.h"
 
 #include <QFileInfo>
 
-ImageLoadRegistry::ImageLoadRegistry()
-    : m_cvLoader(std::make_unique<ImageLoadCv>())
+#include <utility>
+
+ImageLoadRegistry::ImageLoadRegistry(std::unique_ptr<ImageLoadBase> pictureLoader)
+    : m_pictureLoader(std::move(pictureLoader))
     , m_rawLoader(std::make_unique<ImageLoadVk>())
 {
     for (const char* suffix : { "jpg", "jpeg", "tif", "tiff", "bmp", "png" }) {
-        m_loaderBySuffix.insert(QString::fromLatin1(suffix), m_cvLoader.get());
+        m_loaderBySuffix.insert(QString::fromLatin1(suffix), m_pictureLoader.get());
     }
     m_loaderBySuffix.insert(QStringLiteral("raw"), m_rawLoader.get());
 }

@@ -9,7 +9,6 @@
 
 class ImageData;
 class ImageLoadBase;
-class ImageLoadCv;
 class ImageLoadVk;
 
 /// Picks the loader for a file by its suffix in any case: jpg, jpeg, tif, tiff, bmp and png go
@@ -18,6 +17,10 @@ class ImageLoadRegistry
 {
 public:
     ImageLoadRegistry();
+
+    /// With another loader in place of the one that calls OpenCV. A program that has only this
+    /// constructor does not link OpenCV.
+    explicit ImageLoadRegistry(std::unique_ptr<ImageLoadBase> pictureLoader);
     ~ImageLoadRegistry();
     ImageLoadRegistry(const ImageLoadRegistry&) = delete;
     ImageLoadRegistry& operator=(const ImageLoadRegistry&) = delete;
@@ -33,7 +36,7 @@ public:
         const QString& path, ImageData* image, const ReadOptions& options, ReadReport* report);
 
 private:
-    std::unique_ptr<ImageLoadCv> m_cvLoader;
+    std::unique_ptr<ImageLoadBase> m_pictureLoader;
     std::unique_ptr<ImageLoadVk> m_rawLoader;
     QMap<QString, ImageLoadBase*> m_loaderBySuffix;
 };

@@ -59,8 +59,13 @@ bool isSame(const QJsonArray& found, const QVector<quint32>& shown)
     return same;
 }
 
-bool isSame(const QJsonObject& found, const Widget::Histogram& shown)
+/// `value` is left out where the widget shows no histogram.
+bool isSame(const QJsonValue& value, const Widget::Histogram& shown)
 {
+    const QJsonObject found = value.toObject();
+    if (!shown.isValid()) {
+        return value.isUndefined();
+    }
     return found["first"] == qint64(shown.first) && isSame(found["counts"].toArray(), shown.counts);
 }
 
@@ -156,10 +161,10 @@ void TestWidgetNumbers::file_hasTheNumbersOfTheWidget()
     const QRect all(QPoint(0, 0), size);
     QCOMPARE(found["bits"].toInt(), widget->imageInfo().bitDepth);
     QVERIFY(isSame(found["image"].toObject(), widget->statistics(all)));
-    QVERIFY(isSame(found["histogram"].toObject(), widget->histogram(all)));
+    QVERIFY(isSame(found["histogram"], widget->histogram(all)));
     const QJsonObject foundRegion = found["regions"].toArray().at(0).toObject();
     QVERIFY(isSame(foundRegion, widget->statistics(region)));
-    QVERIFY(isSame(foundRegion["histogram"].toObject(), widget->histogram(region)));
+    QVERIFY(isSame(foundRegion["histogram"], widget->histogram(region)));
     const QJsonObject foundRow = found["rows"].toArray().at(0).toObject();
     QCOMPARE(foundRow["index"].toInt(), row);
     QVERIFY(isSame(foundRow["values"].toArray(), widget->rowProfile(row).values));
