@@ -67,6 +67,16 @@ and the exact value of each pixel. Regions of interest come with statistics
 and histogram, charts of a whole row or column with labelled peaks, and
 folders as a gallery.]])
     install_documents(viewer vkviewer)
+
+    list(APPEND CPACK_COMPONENTS_ALL tools) # needs no library package: it links the core
+    set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME vkintensity-tools)
+    set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION science)
+    set(CPACK_DEBIAN_TOOLS_DESCRIPTION [[numbers of camera images on the command line
+vkmeasure prints statistics of camera images and of regions in them, values of
+rows and columns with their peaks, and histograms, as JSON lines or CSV tables.
+It reads JPEG, TIFF, BMP and PNG images and raw camera frames, with 8, 16 or
+32 bits a sample, needs no display, and measures several files at a time.]])
+    install_documents(tools vkintensity-tools)
 endif()
 
 include(CPack)
