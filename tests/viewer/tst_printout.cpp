@@ -229,8 +229,9 @@ void TestPrintout::rowsAreRightAligned()
     Printout printout;
     printout.table << QStringList { "Name", "Pixels" } << QStringList { "a", "1" }
                    << QStringList { "b", "1000000000" };
+    const auto pages = drawn(printout);
     QVector<double> ends;
-    for (const auto& entry : drawn(printout)[0]) {
+    for (const auto& entry : pages[0]) {
         if (entry.kind == RecordingPaintDevice::Text && entry.position.x() > 1.0) {
             ends << textEnd(entry);
         }
