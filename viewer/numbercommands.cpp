@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QIODevice>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QMessageBox>

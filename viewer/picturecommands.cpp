@@ -7,6 +7,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QIODevice>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QPixmap>

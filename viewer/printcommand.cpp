@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QFileInfo>
 #include <QLocale>
+#include <QIODevice>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QPageLayout>
