@@ -4,6 +4,7 @@
 #include "gallerymodel.h"
 
 #include <QPainter>
+#include <QTextLayout>
 
 namespace {
 
@@ -19,7 +20,7 @@ constexpr qreal refusedOpacity = 0.45;
 // Distances at 96 dots per inch.
 constexpr int gap = 5; // around a tile, half of what lies between two
 constexpr int padding = 8; // between tile and picture
-constexpr int nameHeight = 26;
+constexpr int nameHeight = 36; // two lines
 
 /// Where a picture of `size` pixels stands: in the middle, smaller when there is no room for it.
 QRectF centred(const QSizeF& size, const QRect& room)
@@ -29,6 +30,29 @@ QRectF centred(const QSizeF& size, const QRect& room)
     place.moveCenter(QRectF(room).center());
     place.moveTopLeft(QPointF(place.topLeft().toPoint())); // on whole pixels it stays sharp
     return place;
+}
+
+/// The name on one line, or on two of this width; the second one gives way in the middle, so that
+/// number and suffix stay.
+QString wrappedName(const QString& name, const QFont& font, int width)
+{
+    QTextLayout layout(name, font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    QTextLine first = layout.createLine();
+    if (first.isValid()) {
+        first.setLineWidth(width);
+    }
+    layout.endLayout();
+    const int length = first.isValid() ? first.textLength() : 0;
+    if (length >= int(name.size())) {
+        return name;
+    }
+    const QString rest = name.mid(length).trimmed();
+    return name.left(length).trimmed() + '\n'
+        + QFontMetrics(font).elidedText(rest, Qt::ElideMiddle, width);
 }
 
 void paintGround(QPainter* painter, const QRect& tile, QStyle::State state)
@@ -82,8 +106,7 @@ void GalleryDelegate::paint(
     const QString text = index.data().toString().simplified(); // a line feed stays on the line
     painter->setFont(option.font);
     painter->setPen(option.state & QStyle::State_Selected ? currentNameColor : nameColor);
-    painter->drawText(
-        name, Qt::AlignCenter, option.fontMetrics.elidedText(text, Qt::ElideMiddle, name.width()));
+    painter->drawText(name, Qt::AlignCenter, wrappedName(text, option.font, name.width()));
     painter->restore();
 }
 

@@ -23,9 +23,11 @@ private Q_SLOTS:
     void refused_isCrossedOut();
     void tooLarge_isSaid();
     void current_standsOut();
-    void name_staysOnOneLine();
+    void name_takesTwoLinesAtMost();
+    void name_usesTheSecondLineForItsEnd();
 
 private:
+    QRect inkOfName(const QString& name);
     QImage painted(QStyle::State state = QStyle::State_Enabled) const;
     int coloured(const QImage& tile, const QColor& color) const;
 
@@ -87,8 +89,8 @@ int TestGalleryDelegate::coloured(const QImage& tile, const QColor& color) const
 void TestGalleryDelegate::size_isThatOfThePictureAndTheName()
 {
     QCOMPARE(GalleryDelegate::pictureSize(), QSize(160, 120));
-    QCOMPARE(GalleryDelegate::tileSize(), QSize(186, 172)); // 160 + 26, 120 + 26 + 26
-    QCOMPARE(m_delegate->sizeHint(QStyleOptionViewItem(), m_model->index(0)), QSize(186, 172));
+    QCOMPARE(GalleryDelegate::tileSize(), QSize(186, 182)); // 160 + 26, 120 + 26 + 36
+    QCOMPARE(m_delegate->sizeHint(QStyleOptionViewItem(), m_model->index(0)), QSize(186, 182));
 }
 
 void TestGalleryDelegate::picture_standsInTheMiddle()
@@ -155,12 +157,12 @@ void TestGalleryDelegate::current_standsOut()
     QVERIFY(hovered.pixelColor(ground) != current.pixelColor(ground));
 }
 
-void TestGalleryDelegate::name_staysOnOneLine()
+void TestGalleryDelegate::name_takesTwoLinesAtMost()
 {
     const QString path = m_folder.filePath(QString(120, 'w') + "\n" + QString(60, 'w') + ".png");
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
-    const QRect name(13, 133, 160, 34);
+    const QRect name(13, 133, 160, 44);
     const QImage before = painted();
     m_model->setFiles({ QFileInfo(path) });
     const QImage tile = painted();
@@ -168,6 +170,36 @@ void TestGalleryDelegate::name_staysOnOneLine()
     QImage elsewhere = tile;
     QPainter(&elsewhere).drawImage(name, before, name);
     QCOMPARE(elsewhere, before); // the long name reaches nowhere else
+}
+
+/// Where the name is painted, in pixels of the tile.
+QRect TestGalleryDelegate::inkOfName(const QString& name)
+{
+    m_model->setFiles({});
+    QFile file(m_folder.filePath(name));
+    [&file] { QVERIFY(file.open(QIODevice::WriteOnly)); }();
+    m_model->setFiles({ QFileInfo(file.fileName()) });
+    const QImage tile = painted();
+    const QColor ground = tile.pixelColor(20, 20);
+    QRect ink;
+    for (int y = 133; y < 175; ++y) {
+        for (int x = 13; x < 173; ++x) {
+            ink |= tile.pixelColor(x, y) == ground ? QRect() : QRect(x, y, 1, 1);
+        }
+    }
+    return ink;
+}
+
+void TestGalleryDelegate::name_usesTheSecondLineForItsEnd()
+{
+    const QRect one = inkOfName("frame.raw");
+    const QRect two = inkOfName("calibration lamp exposure 20 ms 12.raw");
+    QVERIFY(one.isValid() && two.isValid());
+    QVERIFY2(one.height() <= 20 && two.height() > 20 && two.height() <= 44,
+        qPrintable(QString("%1, %2").arg(one.height()).arg(two.height())));
+    QVERIFY(qAbs(one.center().y() - two.center().y()) <= 3); // both in the middle
+    const QRect cut = inkOfName(QString(120, 'w') + ".raw");
+    QVERIFY(cut.height() > 20 && cut.height() <= two.height() && cut.width() > 140);
 }
 
 QTEST_MAIN(TestGalleryDelegate)
