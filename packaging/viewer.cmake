@@ -1,6 +1,6 @@
 # The viewer and what makes a desktop know it.
 
-# The palettes are looked for beside the program, which therefore has a folder of its own.
+# Palettes and guide are looked for beside the program, which therefore has a folder of its own.
 if(WIN32)
     set(viewer_dir "${CMAKE_INSTALL_BINDIR}")
 else()
@@ -14,6 +14,7 @@ endif()
 find_library_from(vkviewer "${viewer_dir}")
 install(TARGETS vkviewer RUNTIME DESTINATION "${viewer_dir}" COMPONENT viewer)
 install(DIRECTORY "${kit_dir}/pal" DESTINATION "${viewer_dir}" COMPONENT viewer)
+install(DIRECTORY "${PROJECT_BINARY_DIR}/viewer/guide" DESTINATION "${viewer_dir}" COMPONENT viewer)
 
 if(UNIX AND NOT APPLE)
     set(application org.vkintensity.VKViewer)

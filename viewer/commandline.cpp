@@ -12,12 +12,24 @@ constexpr int maxPeakCount = 200; // from 1 on
 constexpr int maxWavelengthStart = 2000; // from 0 on
 constexpr int maxPixelWidth = 100; // from 1 on
 
+constexpr int maxPage = 99999; // parsedNumbers() takes five digits
+
 QString readSize(const QString& value, CommandLine* line)
 {
     line->size = parsedSize(value);
     return line->size.isValid()
         ? QString()
         : CommandLine::tr("--size needs WIDTHxHEIGHT, each from 1 to %1").arg(maxScreenshotExtent);
+}
+
+/// Pages count from 1 here.
+QString readPage(const QString& value, CommandLine* line)
+{
+    const int page = parsedNumbers(value, 1).value(0);
+    line->page = page - 1;
+    return page >= 1
+        ? QString()
+        : CommandLine::tr("--page needs the number of a page, from 1 to %1").arg(maxPage);
 }
 
 QString readView(const QString& value, CommandLine* line)
@@ -107,6 +119,7 @@ QString readOption(const QString& option, QStringList* rest, CommandLine* line)
     static const QHash<QString, Reader> readers {
         { "--screenshot", readScreenshot },
         { "--size", readSize },
+        { "--page", readPage },
         { "--view", readView },
         { "--peaks", readPeaks },
         { "--palette", readPalette },
@@ -131,6 +144,9 @@ QString readImage(const QString& path, CommandLine* line)
 
 QString contradiction(const CommandLine& line)
 {
+    if (line.page && line.image.isEmpty()) {
+        return CommandLine::tr("--page needs an image to show");
+    }
     if (line.screenshot.isEmpty()) {
         if (line.size.isValid()) {
             return CommandLine::tr("--size goes with --screenshot");
@@ -199,13 +215,14 @@ QVector<int> parsedNumbers(const QString& text, int count)
 QString commandLineHelp()
 {
     return CommandLine::tr(
-        "Usage: vkviewer [IMAGE | FOLDER]\n"
+        "Usage: vkviewer [--page N] [IMAGE | FOLDER]\n"
         "       vkviewer --screenshot FILE.png [OPTIONS] IMAGE | FOLDER\n"
         "\n"
         "Shows a camera image with its intensity profiles, rulers and palette.\n"
         "IMAGE is a jpg, jpeg, tif, tiff, bmp or png picture or a raw camera file; of a FOLDER\n"
         "its images are shown in a gallery.\n"
         "\n"
+        "  --page N                show page N of a TIFF file with several pages, counted from 1\n"
         "  --screenshot FILE.png   save the window as a picture and exit\n"
         "  --size WIDTHxHEIGHT     size of that window in pixels, else 1280x800 at 96 dpi\n"
         "  --view image|x|y        show the image, or its row or column as a chart\n"

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 /// What the program was asked to do.
 struct CommandLine
 {
@@ -14,6 +16,7 @@ struct CommandLine
 
 public:
     QString image; ///< file to open, or folder to show; empty: none
+    std::optional<int> page; ///< of that file, from 0; without it the first
     QString screenshot; ///< file to save the window to; empty: an ordinary session
     QSize size; ///< window size in pixels; not valid: that of a first start
     DisplaySettings settings; ///< for a screenshot

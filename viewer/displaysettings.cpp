@@ -33,7 +33,7 @@ QString addRegions(const QVector<QRect>& regions, CVKIntensityWidget* widget)
 
 bool DisplaySettings::isEmpty() const
 {
-    return !view && !chartAxis && !peakLabels && !calibration && palette.isEmpty()
+    return !view && !chartAxis && !crossHair && !peakLabels && !calibration && palette.isEmpty()
         && regions.isEmpty();
 }
 
@@ -46,6 +46,7 @@ DisplaySettings displaySettings(const CVKIntensityWidget& widget)
     }
     settings.view = widget.view();
     settings.chartAxis = widget.chartAxis();
+    settings.crossHair = widget.crossHair();
     settings.peakLabels = widget.peakLabels();
     settings.calibration = widget.calibration();
     settings.palette = widget.colorPalette();
@@ -59,6 +60,9 @@ DisplaySettings displaySettings(const CVKIntensityWidget& widget)
 
 QString applySettings(const DisplaySettings& settings, CVKIntensityWidget* widget)
 {
+    if (settings.crossHair && settings.crossHair != widget->crossHair()) {
+        widget->setCrossHair(*settings.crossHair); // a chart shows its row and column
+    }
     QString problem = addRegions(settings.regions, widget);
     if (problem.isEmpty() && settings.selectedRegion) {
         widget->selectRegion(*settings.selectedRegion);
@@ -82,7 +86,8 @@ QString applySettings(const DisplaySettings& settings, CVKIntensityWidget* widge
     if (settings.view) {
         check(widget->setView(*settings.view), Settings::tr("there is no such view"));
     }
-    if (!settings.palette.isEmpty()) {
+    const bool isOtherPalette = settings.palette != widget->colorPalette();
+    if (!settings.palette.isEmpty() && isOtherPalette) { // else all is colored once more
         check(widget->setColorPalette(settings.palette),
             Settings::tr("the palette %1 cannot be read").arg(settings.palette));
     }

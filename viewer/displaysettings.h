@@ -2,6 +2,7 @@
 
 #include "cvkintensitywidget.h"
 
+#include <QPoint>
 #include <QRect>
 #include <QString>
 #include <QVector>
@@ -13,6 +14,7 @@ struct DisplaySettings
 {
     std::optional<CVKIntensityWidget::View> view;
     std::optional<CVKIntensityWidget::Axis> chartAxis; ///< of the chart behind the image view
+    std::optional<QPoint> crossHair; ///< image pixel; outside the image it is left out
     std::optional<CVKIntensityWidget::PeakLabels> peakLabels;
     std::optional<CVKIntensityWidget::Calibration> calibration;
     QString palette; ///< one of CVKIntensityWidget::colorPalettes(); empty: as it is

@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QVBoxLayout>
 
 namespace {
@@ -42,6 +43,10 @@ void ImagePage::createWidget()
     layout()->activate(); // a load asks for the size at once
     m_access = WidgetAccess(m_widget);
     m_access.prepare();
+    if (QWidget* picture = m_access.picture()) {
+        picture->setMouseTracking(true);
+        picture->installEventFilter(this);
+    }
 }
 
 CVKIntensityWidget* ImagePage::intensityWidget()
@@ -64,9 +69,9 @@ bool ImagePage::hasCanvasFocus() const
     return canvas && canvas->hasFocus();
 }
 
-bool ImagePage::load(const QString& path)
+bool ImagePage::load(const QString& path, int page)
 {
-    if (!intensityWidget()->loadImage(path)) {
+    if (!intensityWidget()->loadPage(path, page)) {
         closeImage();
         return false;
     }
@@ -85,6 +90,16 @@ void ImagePage::closeImage()
 void ImagePage::sltSwitchToGallery()
 {
     Q_EMIT returnRequested();
+}
+
+void ImagePage::imageChanged()
+{
+    Q_EMIT displayChanged();
+}
+
+void ImagePage::settingsChanged()
+{
+    Q_EMIT displayChanged();
 }
 
 void ImagePage::viewChanged()
@@ -119,4 +134,16 @@ bool ImagePage::event(QEvent* event)
         return true;
     }
     return QWidget::event(event);
+}
+
+/// Looks at the pointer only: every event goes on to the canvas.
+bool ImagePage::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseMove && m_widget) {
+        const QPoint position = static_cast<QMouseEvent*>(event)->pos();
+        Q_EMIT pointerMoved(static_cast<QWidget*>(watched)->mapTo(m_widget, position));
+    } else if (event->type() == QEvent::Leave) {
+        Q_EMIT pointerLeft();
+    }
+    return QWidget::eventFilter(watched, event);
 }

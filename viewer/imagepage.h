@@ -15,10 +15,10 @@ class ImagePage : public QWidget, private CVKIntensityWidget::Listener
 public:
     explicit ImagePage(QWidget* parent = nullptr);
 
-    /// Shows the file in place of the image that is open. To be called with the page in front,
-    /// since only the page in front has its size. False when the file is not shown: no image is
-    /// open then, and another page belongs in front.
-    bool load(const QString& path);
+    /// Shows page `page` of the file, from 0, in place of the image that is open. To be called with
+    /// the page in front, since only the page in front has its size. False when the file is not
+    /// shown: no image is open then, and another page belongs in front.
+    bool load(const QString& path, int page = 0);
 
     /// Closes the image, if one is open, and brings the button that asked for it, if it did, back
     /// up.
@@ -40,14 +40,21 @@ public Q_SLOTS:
 Q_SIGNALS:
     void returnRequested();
 
-    /// Another view of the image is shown, or another region selected.
+    /// Another image or part of it is shown, or another region selected, or settings have changed.
     void displayChanged();
+
+    /// The pointer moves over the canvas; a position in the intensity widget.
+    void pointerMoved(const QPoint& position);
+    void pointerLeft();
 
 protected:
     bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void imageChanged() override;
     void viewChanged() override;
+    void settingsChanged() override;
     void selectionChanged() override;
     void createWidget();
 

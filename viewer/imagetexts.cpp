@@ -66,9 +66,6 @@ QStringList changesInReading(const CVKIntensityWidget::ImageInfo& info)
                 ? ImageTexts::tr("floating-point samples as whole numbers")
                 : ImageTexts::tr("signed samples as whole numbers"));
     }
-    if (info.pageCount > 1) {
-        changes << ImageTexts::tr("page %1 of %2").arg(info.page + 1).arg(info.pageCount);
-    }
     return changes;
 }
 

@@ -78,10 +78,11 @@ void prepareForDenseScreens()
 class OpenAfterPaint : public QObject
 {
 public:
-    OpenAfterPaint(ViewerWindow* window, const QString& image)
+    OpenAfterPaint(ViewerWindow* window, const QString& image, int page)
         : QObject(window)
         , m_window(window)
         , m_image(image)
+        , m_page(page)
     {
         window->windowHandle()->installEventFilter(this);
     }
@@ -90,7 +91,7 @@ public:
     {
         if (event->type() == QEvent::Expose && m_window->windowHandle()->isExposed()) {
             watched->removeEventFilter(this);
-            QTimer::singleShot(0, m_window, [this] { m_window->openPath(m_image); });
+            QTimer::singleShot(0, m_window, [this] { m_window->openPath(m_image, m_page); });
         }
         return false;
     }
@@ -98,15 +99,16 @@ public:
 private:
     ViewerWindow* m_window;
     QString m_image;
+    int m_page;
 };
 
-int runWindow(ViewerWindow* window, const QString& image)
+int runWindow(ViewerWindow* window, const CommandLine& line)
 {
     window->resize(fittingPrimaryScreen(startSize()));
     window->restoreSession(std::make_unique<QSettings>());
     window->winId(); // makes the handle that tells of the first painting
-    if (!image.isEmpty()) {
-        new OpenAfterPaint(window, image);
+    if (!line.image.isEmpty()) {
+        new OpenAfterPaint(window, line.image, line.page.value_or(0));
     }
     window->show();
     return QApplication::exec();
@@ -152,7 +154,7 @@ int main(int argc, char* argv[])
     applyAppearance();
     ViewerWindow window;
     if (line.screenshot.isEmpty()) {
-        return runWindow(&window, line.image);
+        return runWindow(&window, line);
     }
     window.resize(startSize()); // a picture may be larger than the screen
     const QString problem = takeScreenshot(&window, line);

@@ -54,10 +54,10 @@ void waitForGallery(const ViewerWindow& window)
 }
 
 /// Opens what is asked for, a gallery with all its pictures.
-bool openQuietly(ViewerWindow* window, const QString& path)
+bool openQuietly(ViewerWindow* window, const QString& path, int page)
 {
     const QuietStandardError quiet;
-    const bool opened = window->openPath(path);
+    const bool opened = window->openPath(path, page);
     waitForGallery(*window);
     return opened;
 }
@@ -100,7 +100,7 @@ QString takeScreenshot(ViewerWindow* window, const CommandLine& line)
     window->hideLoadTime(); // the same image, the same picture
     window->show();
     settle(*window);
-    if (!openQuietly(window, line.image)) {
+    if (!openQuietly(window, line.image, line.page.value_or(0))) {
         return QString("%1: %2").arg(line.image, window->problem());
     }
     settle(*window);

@@ -7,6 +7,7 @@ namespace {
 constexpr char geometryKey[] = "window/geometry";
 constexpr char folderKey[] = "files/folder";
 constexpr char recentKey[] = "files/recent";
+constexpr char settingsKeptKey[] = "view/keepSettings";
 
 } // namespace
 
@@ -34,6 +35,18 @@ void SessionStore::store(const QByteArray& geometry, const QString& folder)
     if (m_settings) {
         m_settings->setValue(geometryKey, geometry);
         m_settings->setValue(folderKey, folder);
+    }
+}
+
+bool SessionStore::areSettingsKept() const
+{
+    return !m_settings || m_settings->value(settingsKeptKey, true).toBool();
+}
+
+void SessionStore::storeSettingsKept(bool kept)
+{
+    if (m_settings) {
+        m_settings->setValue(settingsKeptKey, kept);
     }
 }
 

@@ -8,9 +8,9 @@
 
 class QSettings;
 
-/// What the next start of the program finds again: the place of the window, the folder and the
-/// recent files. Until settings are opened, nothing is read or stored, and recent files are kept
-/// for the run only.
+/// What the next start of the program finds again: the place of the window, the folder, the recent
+/// files, and whether settings are kept. Until settings are opened, nothing is read or stored, and
+/// recent files are kept for the run only.
 class SessionStore
 {
 public:
@@ -27,6 +27,10 @@ public:
     QString folder() const;
 
     void store(const QByteArray& geometry, const QString& folder);
+
+    /// Whether the next image is shown as the one before; true when nothing was stored.
+    bool areSettingsKept() const;
+    void storeSettingsKept(bool kept);
 
     const RecentFiles& recentFiles() const { return m_recent; }
 

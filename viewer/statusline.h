@@ -1,13 +1,16 @@
 #pragma once
 
 #include <QStatusBar>
+#include <QVector>
 
 class ElidedLabel;
+class PageControl;
 class QLabel;
 class QProgressBar;
 
-/// The line at the bottom of the window: name of the file, progress of a long load, what is known
-/// about the image, and the time that it took to load.
+/// The line at the bottom of the window: name of the file, progress of a long load, the pixel under
+/// the pointer, the zoom, the page, what is known about the image, and the time that it took to
+/// load. In a narrow window the name is shortened, and what matters least goes.
 class StatusLine : public QStatusBar
 {
     Q_OBJECT
@@ -39,9 +42,36 @@ public:
     /// Leaves the time out from now on.
     void hideTime();
 
+    /// Makes room for texts about a pixel up to the width of `widest`; empty: there are none.
+    void reservePixel(const QString& widest);
+    void showPixel(const QString& text); ///< never moves anything
+
+    void showZoom(const QString& text); ///< in a field of one width; empty: none
+
+    void showSettingsKept(bool kept);
+
+    void showPages(int page, int count); ///< see PageControl::showPage()
+    PageControl* pageControl() const { return m_pages; }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    struct Part
+    {
+        QWidget* widget;
+        bool isWanted;
+    };
+    QVector<Part> partsByImportance() const;
+    void fitParts();
+
     ElidedLabel* m_name;
     QProgressBar* m_progress;
+    QLabel* m_pixel;
+    QLabel* m_zoom;
+    PageControl* m_pages;
     QLabel* m_summary;
+    QLabel* m_kept;
     QLabel* m_time;
+    bool m_isTimeShown = true;
 };

@@ -72,6 +72,10 @@ void ViewerMenu::buildFileMenu()
         Needs::File);
     add(menu, ViewerCommand::Previous, "actionPrevious", tr("&Previous Image"),
         { QKeySequence("PgUp") }, Needs::File);
+    add(menu, ViewerCommand::NextPage, "actionNextPage", tr("Next P&age"),
+        { QKeySequence("Ctrl+PgDown") });
+    add(menu, ViewerCommand::PreviousPage, "actionPreviousPage", tr("Pre&vious Page"),
+        { QKeySequence("Ctrl+PgUp") });
     add(menu, ViewerCommand::Reload, "actionReload", tr("Re&load"), { QKeySequence("F5") });
     menu->addSeparator();
     add(menu, ViewerCommand::SaveScreenshot, "actionSaveScreenshot", tr("&Save Screenshot..."),
@@ -138,6 +142,8 @@ void ViewerMenu::buildViewMenu()
     addViews(menu);
     menu->addSeparator();
     addPalettes(menu->addMenu(tr("&Palette")));
+    add(menu, ViewerCommand::KeepSettings, "actionKeepSettings", tr("&Keep Settings"), {})
+        ->setCheckable(true);
     menu->addSeparator();
     add(menu, ViewerCommand::FullScreen, "actionFullScreen", tr("&Full Screen"),
         { QKeySequence("F11") })
@@ -188,6 +194,8 @@ void ViewerMenu::buildHelpMenu()
 {
     QMenu* menu = addMenu(tr("&Help"));
     add(menu, ViewerCommand::Help, "actionHelp", tr("&Mouse and Keys"), { QKeySequence("F1") });
+    add(menu, ViewerCommand::UserGuide, "actionUserGuide", tr("User &Guide"),
+        { QKeySequence("Shift+F1") });
     add(menu, ViewerCommand::About, "actionAbout", tr("&About"), {});
 }
 

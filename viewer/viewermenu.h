@@ -21,6 +21,8 @@ enum class ViewerCommand {
     Gallery,
     Next,
     Previous,
+    NextPage,
+    PreviousPage,
     Reload,
     SaveScreenshot,
     SavePicture,
@@ -39,9 +41,11 @@ enum class ViewerCommand {
     ImageView,
     RowChart,
     ColumnChart,
+    KeepSettings,
     FullScreen,
     LeaveFullScreen, ///< by its key alone
     Help,
+    UserGuide,
     About
 };
 

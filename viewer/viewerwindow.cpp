@@ -1,18 +1,24 @@
 #include "viewerwindow.h"
 
+#include "about.h"
 #include "appearance.h"
 #include "filedrop.h"
 #include "gallerypage.h"
 #include "helpoverlay.h"
+#include "imagedocument.h"
 #include "imagefiles.h"
 #include "imagepage.h"
 #include "imagetexts.h"
+#include "nextimagereader.h"
 #include "numbercommands.h"
+#include "pagenavigation.h"
 #include "pages.h"
 #include "picturecommands.h"
+#include "pointerreadout.h"
 #include "printcommand.h"
-#include "readahead.h"
+#include "settingskeeper.h"
 #include "statusline.h"
+#include "userguide.h"
 #include "viewermenu.h"
 #include "waitcursor.h"
 
@@ -21,12 +27,10 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QDragEnterEvent>
-#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QPointer>
 #include <QSettings>
 #include <QStackedWidget>
 #include <QTimer>
@@ -48,11 +52,25 @@ ViewerWindow::ViewerWindow(QWidget* parent)
     setStatusBar(m_status);
     createMenu();
     m_help = new HelpOverlay(m_menu->keys(), this);
-    connect(&m_watch, &FileWatch::changed, this, &ViewerWindow::followFile);
+    connectDocument();
+    new UserGuide(m_menu, this);
     connect(m_status, &QStatusBar::messageChanged, this, &ViewerWindow::updateBars);
     // Room for the panel column, the strips beside the image and a little image.
     setMinimumSize(scaledForScreen(290) + 350, 480);
     showWelcome();
+}
+
+void ViewerWindow::connectDocument()
+{
+    m_document = new ImageDocument(m_imagePage, this);
+    connect(m_document, &ImageDocument::loadStarts, this, &ViewerWindow::startLoad);
+    connect(m_document, &ImageDocument::loadProgressed, this, &ViewerWindow::showProgress);
+    connect(m_document, &ImageDocument::loaded, this, &ViewerWindow::showImage);
+    connect(m_document, &ImageDocument::refused, this, &ViewerWindow::showProblem);
+    m_nextReader = new NextImageReader(m_document, this);
+    new PageNavigation(m_menu, m_document, m_status, this);
+    new PointerReadout(m_imagePage, m_status, this);
+    m_settingsKeeper = new SettingsKeeper(m_menu, m_document, m_status, &m_session, this);
 }
 
 void ViewerWindow::createMenu()
@@ -128,7 +146,8 @@ void ViewerWindow::createPages()
     setCentralWidget(m_pages);
     connect(m_welcomePage, &WelcomePage::openRequested, this, &ViewerWindow::chooseFile);
     connect(m_problemPage, &LoadProblemPage::openRequested, this, &ViewerWindow::chooseFile);
-    connect(m_galleryPage, &GalleryPage::imageRequested, this, &ViewerWindow::openFile);
+    connect(m_galleryPage, &GalleryPage::imageRequested, this,
+        [this](const QString& path) { openFile(path); });
     connect(m_galleryPage, &GalleryPage::openRequested, this, &ViewerWindow::chooseFile);
     connect(m_galleryPage, &GalleryPage::folderRequested, this, &ViewerWindow::chooseFolder);
     connect(m_imagePage, &ImagePage::returnRequested, this, &ViewerWindow::leaveImage);
@@ -138,6 +157,7 @@ bool ViewerWindow::restoreSession(std::unique_ptr<QSettings> settings)
 {
     m_session.open(std::move(settings));
     m_folder = m_session.folder();
+    m_settingsKeeper->restore();
     updateMenu();
     const bool restored = restoreGeometry(m_session.geometry());
     setWindowState(windowState() & ~Qt::WindowFullScreen); // nobody expects to start without a menu
@@ -172,54 +192,55 @@ void ViewerWindow::updateMenu()
     m_menu->setRecentFiles(recent);
 }
 
-bool ViewerWindow::openFile(const QString& path)
+bool ViewerWindow::openFile(const QString& path, int page)
 {
-    const WaitCursor waitCursor;
-    QElapsedTimer clock;
-    clock.start();
-    const QFileInfo file(path);
-    m_folder = file.absolutePath();
-    m_file = file.absoluteFilePath();
-    m_settingsToKeep = DisplaySettings();
-    m_watch.watch(m_file); // before the load, which could miss the end of it
-    const bool loaded = loadIntoPage(m_file);
-    m_status->hideProgress();
-    updateBars();
-    if (!loaded) {
-        showProblem(path);
-        return false;
-    }
-    m_session.addRecentFile(m_file);
-    updateMenu();
-    nameFile(path);
-    m_status->showImage(imageSummary(m_imagePage->intensityWidget()->imageInfo()), clock.elapsed());
-    return true;
+    return m_document->open(path, page);
 }
 
-/// Nothing of the image page is painted before openFile() has decided which page stays.
-bool ViewerWindow::loadIntoPage(const QString& path)
+void ViewerWindow::startLoad()
 {
-    nameFile(path);
-    if (QFileInfo(path).size() > smallFileSize && hasImageSuffix(path)) {
-        m_status->show(); // also on a full screen
-        m_status->showLoading(QFileInfo(path).fileName());
-        readAhead(path, [this](int percent) { m_status->showProgress(percent); });
-    }
+    m_folder = QFileInfo(m_document->file()).absolutePath();
+    nameFile();
     m_pages->setCurrentWidget(m_imagePage);
-    return m_imagePage->load(path);
 }
 
-void ViewerWindow::showProblem(const QString& path)
+void ViewerWindow::showProgress(int percent)
 {
-    const auto problem = m_imagePage->intensityWidget()->loadProblem();
-    m_problemPage->showProblem(path, problemText(path, problem));
+    if (percent == 0) {
+        m_status->show(); // also on a full screen
+        m_status->showLoading(QFileInfo(m_document->file()).fileName());
+    } else {
+        m_status->showProgress(percent);
+    }
+}
+
+void ViewerWindow::showImage(qint64 milliseconds, const QString& problem)
+{
+    m_status->hideProgress();
+    m_session.addRecentFile(m_document->file());
+    updateMenu();
+    nameFile();
+    m_status->showImage(imageSummary(m_imagePage->intensityWidget()->imageInfo()), milliseconds);
+    if (!problem.isEmpty()) {
+        m_status->showMessage(tr("Not all is as before: %1.").arg(problem));
+    }
+    updateBars();
+}
+
+void ViewerWindow::showProblem()
+{
+    const QString path = m_document->file();
+    m_status->hideProgress();
+    m_problemPage->showProblem(
+        path, problemText(path, m_imagePage->intensityWidget()->loadProblem()));
     showPage(m_problemPage);
-    nameFile(path);
+    nameFile();
+    updateBars();
 }
 
-void ViewerWindow::nameFile(const QString& path)
+void ViewerWindow::nameFile()
 {
-    const QFileInfo file(path);
+    const QFileInfo file(m_document->file());
     nameWindow(file.fileName(), file.absoluteFilePath());
 }
 
@@ -263,20 +284,20 @@ void ViewerWindow::openSoon(const QString& path)
     QTimer::singleShot(vanishMilliseconds, this, [this, path] { openPath(path); });
 }
 
-bool ViewerWindow::openPath(const QString& path)
+bool ViewerWindow::openPath(const QString& path, int page)
 {
     if (!path.isEmpty() && QFileInfo(path).isDir()) {
         showGallery(path);
         return true;
     }
-    return openFile(path);
+    return openFile(path, page);
 }
 
 void ViewerWindow::showGallery(const QString& folder)
 {
     const WaitCursor waitCursor; // for thousands of files
-    releaseImage();
-    m_galleryPage->showFolder(folder, m_file);
+    m_document->close();
+    m_galleryPage->showFolder(folder, m_document->file());
     m_folder = m_galleryPage->folder();
     showPage(m_galleryPage);
     m_galleryPage->setFocus();
@@ -299,17 +320,10 @@ bool ViewerWindow::isGalleryLoading() const
 
 void ViewerWindow::showWelcome()
 {
-    m_file.clear();
-    releaseImage();
+    m_document->forget();
     m_galleryPage->stopLoading();
     showPage(m_welcomePage);
     nameWindow(QString(), QString());
-}
-
-void ViewerWindow::releaseImage()
-{
-    m_watch.watch(QString());
-    m_imagePage->closeImage();
 }
 
 void ViewerWindow::closeFile()
@@ -344,10 +358,11 @@ void ViewerWindow::showPrevious()
 
 void ViewerWindow::showNeighbour(int step, const QString& lackOfOne)
 {
-    const QString path = neighbourInFolder(m_file, step);
+    const QString path = neighbourInFolder(m_document->file(), step);
     if (path.isEmpty()) {
         m_status->tell(lackOfOne);
     } else {
+        m_nextReader->setDirection(step);
         openFile(path);
     }
 }
@@ -356,42 +371,8 @@ void ViewerWindow::reload()
 {
     if (m_pages->currentWidget() == m_galleryPage) {
         showGallery(m_folder);
-    } else if (!m_file.isEmpty()) {
-        reloadImage();
-    }
-}
-
-/// The file has changed on disk. Nothing is replaced under a pressed button.
-void ViewerWindow::followFile()
-{
-    const QWidget* page = m_pages->currentWidget();
-    if (page != m_imagePage && page != m_problemPage) {
-        return;
-    }
-    if (QApplication::mouseButtons() == Qt::NoButton) {
-        reloadImage();
     } else {
-        QTimer::singleShot(FileWatch::restMilliseconds, this, &ViewerWindow::followFile);
-    }
-}
-
-/// Opens the file and shows it as it was shown.
-void ViewerWindow::reloadImage()
-{
-    const bool isShown = m_pages->currentWidget() == m_imagePage;
-    const DisplaySettings settings
-        = isShown ? displaySettings(*m_imagePage->intensityWidget()) : m_settingsToKeep;
-    const QPointer<QWidget> focused = focusWidget();
-    if (openFile(m_file)) {
-        const QString problem = applySettings(settings);
-        if (!problem.isEmpty()) {
-            m_status->showMessage(tr("Not all is as before: %1.").arg(problem));
-        }
-    } else {
-        m_settingsToKeep = settings; // the file may be good again after its next change
-    }
-    if (focused && focused->isVisible()) {
-        focused->setFocus();
+        m_document->reload();
     }
 }
 
@@ -455,10 +436,7 @@ void ViewerWindow::showHelp()
 
 void ViewerWindow::showAbout()
 {
-    QMessageBox::about(this, tr("About VKIntensity Viewer"),
-        tr("VKIntensity Viewer %1\n\nShows what is in a camera image: profiles, charts with "
-           "labelled peaks, regions of interest and their statistics.")
-            .arg(QCoreApplication::applicationVersion()));
+    QMessageBox::about(this, tr("About VKIntensity Viewer"), aboutText());
 }
 
 void ViewerWindow::quit()
@@ -470,7 +448,8 @@ void ViewerWindow::quit()
 void ViewerWindow::closeEvent(QCloseEvent* event)
 {
     m_session.store(saveGeometry(), m_folder);
-    m_watch.watch(QString());
+    m_document->stopFollowing();
+    m_nextReader->cancel();
     m_galleryPage->stopLoading();
     QMainWindow::closeEvent(event);
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "displaysettings.h"
-#include "filewatch.h"
 #include "sessionstore.h"
 
 #include <QMainWindow>
@@ -10,10 +9,13 @@
 
 class GalleryPage;
 class HelpOverlay;
+class ImageDocument;
 class ImagePage;
 class LoadProblemPage;
+class NextImageReader;
 class QSettings;
 class QStackedWidget;
+class SettingsKeeper;
 class StatusLine;
 class ViewerMenu;
 class WelcomePage;
@@ -31,16 +33,16 @@ public:
     /// now on. Without this nothing is read or stored. False when no place was stored yet.
     bool restoreSession(std::unique_ptr<QSettings> settings);
 
-    /// Closes the image that is open and shows the file instead, or the page that says why not.
-    /// True when the image is shown.
-    bool openFile(const QString& path);
+    /// Closes the image that is open and shows the file, or its page `page`, instead, or the page
+    /// of the window that says why not. True when the image is shown.
+    bool openFile(const QString& path, int page = 0);
 
     /// Closes the image that is open and shows the images of `folder`.
     void showGallery(const QString& folder);
 
     /// Shows the gallery when `path` is a folder, else opens the file. False when there is an image
     /// to show and it is not shown.
-    bool openPath(const QString& path);
+    bool openPath(const QString& path, int page = 0);
 
     /// Whether the gallery is shown and has pictures still to come.
     bool isGalleryLoading() const;
@@ -75,9 +77,7 @@ public Q_SLOTS:
     void showNext();
     void showPrevious();
 
-    /// Opens the file once more, or looks at the folder of the gallery once more. View, palette,
-    /// peaks, wavelengths and regions of interest stay, apart from regions that lie outside the
-    /// image if that has become smaller.
+    /// Loads the file once more, shown as it is, or looks at the folder of the gallery once more.
     void reload();
 
     void openRecentFile(int index);
@@ -100,17 +100,17 @@ private:
     void connectImage();
     void choosePalette(const QString& name);
     void openSoon(const QString& path);
-    void followFile();
-    void reloadImage();
+    void connectDocument();
     void updateBars();
     void showPage(QWidget* page);
     void updateMenu();
     void showWelcome();
-    void releaseImage();
-    bool loadIntoPage(const QString& path);
-    void showProblem(const QString& path);
+    void startLoad();
+    void showProgress(int percent);
+    void showImage(qint64 milliseconds, const QString& problem);
+    void showProblem();
     void showNeighbour(int step, const QString& lackOfOne);
-    void nameFile(const QString& path);
+    void nameFile();
     void nameWindow(const QString& shown, const QString& path);
 
     QStackedWidget* m_pages = nullptr;
@@ -121,9 +121,9 @@ private:
     ViewerMenu* m_menu = nullptr;
     HelpOverlay* m_help = nullptr;
     StatusLine* m_status = nullptr;
-    FileWatch m_watch; // on the file that is shown
+    ImageDocument* m_document = nullptr;
+    NextImageReader* m_nextReader = nullptr;
+    SettingsKeeper* m_settingsKeeper = nullptr;
     SessionStore m_session;
     QString m_folder; // of the file last opened, or the one of the gallery; empty before any
-    QString m_file; // last opened; absolute
-    DisplaySettings m_settingsToKeep; // of an image whose reload has failed
 };

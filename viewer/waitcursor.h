@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QApplication>
+#include <QGuiApplication>
 
 /// Shows the wait cursor while it lives.
 class WaitCursor
 {
 public:
-    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
+    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
     Q_DISABLE_COPY(WaitCursor)
 };

@@ -146,6 +146,12 @@ QWidget* WidgetAccess::canvas() const
     return m_widget ? m_widget->findChild<QGraphicsView*>() : nullptr;
 }
 
+QWidget* WidgetAccess::picture() const
+{
+    auto* view = m_widget ? m_widget->findChild<QGraphicsView*>() : nullptr;
+    return view ? view->viewport() : nullptr;
+}
+
 void WidgetAccess::layOutCanvas()
 {
     const QWidget* view = canvas();

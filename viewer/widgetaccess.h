@@ -18,6 +18,9 @@ public:
     /// The canvas alone, without panel and zoom buttons; null without a widget.
     QWidget* canvas() const;
 
+    /// Where the canvas is drawn and gets its mouse events; null without a widget.
+    QWidget* picture() const;
+
     /// Lays the canvas out once more at its size. The library places the read-out only when the
     /// canvas gets a size, while the first text of an image has more lines than the one before.
     void layOutCanvas();

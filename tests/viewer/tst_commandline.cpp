@@ -14,6 +14,7 @@ private Q_SLOTS:
     void screenshot();
     void optionsInAnyOrder();
     void dashesEndTheOptions();
+    void page_countsFromOne();
     void size_data();
     void size();
     void settings_areReadIntoTheirFields();
@@ -66,6 +67,18 @@ void TestCommandLine::dashesEndTheOptions()
     const CommandLine line = parsedCommandLine({ "--", "--size" });
     QVERIFY(line.error.isEmpty());
     QCOMPARE(line.image, QString("--size"));
+}
+
+void TestCommandLine::page_countsFromOne()
+{
+    QVERIFY(!parsedCommandLine({ "a.tif" }).page);
+    const CommandLine first = parsedCommandLine({ "--page", "1", "a.tif" });
+    QVERIFY2(first.error.isEmpty(), qPrintable(first.error));
+    QCOMPARE(first.page, std::optional<int>(0));
+    const CommandLine last
+        = parsedCommandLine({ "a.tif", "--screenshot", "out.png", "--page", "99999" });
+    QVERIFY2(last.error.isEmpty(), qPrintable(last.error));
+    QCOMPARE(last.page, std::optional<int>(99998));
 }
 
 void TestCommandLine::size_data()
@@ -183,6 +196,14 @@ void TestCommandLine::mistakes_data()
         << QStringList { "--zoom", "a.raw" } << "unknown option --zoom (see --help)";
     QTest::newRow("two images") << QStringList { "a.raw", "b.raw" }
                                 << "only one image can be opened";
+    for (const char* page : { "0", "-1", "two", "1,2", "1.5", "100000", "4294967297", "", " 2" }) {
+        QTest::addRow("page \"%s\"", page) << QStringList { "--page", page, "a.tif" }
+                                           << "--page needs the number of a page, from 1 to 99999";
+    }
+    QTest::newRow("page without a number") << QStringList { "a.tif", "--page" }
+                                           << "--page needs the number of a page, from 1 to 99999";
+    QTest::newRow("page of nothing")
+        << QStringList { "--page", "1" } << "--page needs an image to show";
     QTest::newRow("empty name") << QStringList { "" } << "the name of the image is empty";
     QTest::newRow("screenshot without file")
         << QStringList { "a.raw", "--screenshot" } << "--screenshot needs a file name";
@@ -229,7 +250,7 @@ void TestCommandLine::mistakes()
 
 void TestCommandLine::help_namesEveryOption()
 {
-    for (const char* option : { "--screenshot", "--size", "--view", "--peaks", "--palette", "--roi",
+    for (const char* option : { "--page", "--screenshot", "--size", "--view", "--peaks", "--palette", "--roi",
              "--wavelength", "--help", "--version" }) {
         QVERIFY(commandLineHelp().contains(option));
     }

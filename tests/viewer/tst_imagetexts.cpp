@@ -69,11 +69,6 @@ void TestImageTexts::summary_data()
     color.isColorReduced = color.isAlphaDropped = true;
     QTest::newRow("color with alpha")
         << color << QString::fromUtf8("color as gray, alpha dropped   1024 × 256 pixels   16 bit");
-    Info page = info;
-    page.page = 2;
-    page.pageCount = 12;
-    QTest::newRow("third of 12 pages")
-        << page << QString::fromUtf8("page 3 of 12   1024 × 256 pixels   16 bit");
     Info converted = info;
     converted.bitDepth = 32;
     converted.isTypeConverted = true;

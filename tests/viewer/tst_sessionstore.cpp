@@ -13,6 +13,7 @@ private Q_SLOTS:
     void keepsNothingBeforeItIsOpened();
     void nothingIsStoredYet();
     void findsAgainWhatWasStored();
+    void keptSettings_areOnAtFirst();
     void recentFiles_areStoredAtOnce();
     void recentFiles_ofAnotherWindowStay();
     void recentFiles_areCleared();
@@ -72,6 +73,23 @@ void TestSessionStore::findsAgainWhatWasStored()
     QCOMPARE(store.geometry(), QByteArray("\x01\0\xff", 3));
     QCOMPARE(store.folder(), folder);
     QCOMPARE(store.recentFiles().paths(), QStringList(folder + "/1.raw"));
+}
+
+void TestSessionStore::keptSettings_areOnAtFirst()
+{
+    SessionStore store;
+    QVERIFY(store.areSettingsKept());
+    store.storeSettingsKept(false); // nowhere
+    QVERIFY(store.areSettingsKept());
+    store.open(settings());
+    QVERIFY(store.areSettingsKept());
+    store.storeSettingsKept(false);
+    QVERIFY(!store.areSettingsKept());
+    SessionStore next;
+    next.open(settings());
+    QVERIFY(!next.areSettingsKept());
+    next.storeSettingsKept(true);
+    QVERIFY(next.areSettingsKept());
 }
 
 /// A program that is killed loses none.

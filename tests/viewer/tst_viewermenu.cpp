@@ -1,5 +1,6 @@
 #include "viewermenu.h"
 
+#include "about.h"
 #include "gallerypage.h"
 #include "helpoverlay.h"
 #include "imagepage.h"
@@ -19,6 +20,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -142,7 +144,7 @@ void TestViewerMenu::structure()
     QCOMPARE(m_viewer->window->menuBar()->actions().size(), 4);
     QCOMPARE(entries(0),
         (QStringList { "&Open...", "Open &Folder...", "Open &Recent", "&Gallery", "", "&Next Image",
-            "&Previous Image", "Re&load", "", "&Save Screenshot...", "Save P&icture...",
+            "&Previous Image", "Next P&age", "Pre&vious Page", "Re&load", "", "&Save Screenshot...", "Save P&icture...",
             "Save &Visible Part...", "&Export Numbers...", "", "Prin&t...", "", "&Close",
             "&Quit" }));
     QCOMPARE(entries(1),
@@ -150,8 +152,8 @@ void TestViewerMenu::structure()
             "&Delete Region" }));
     QCOMPARE(entries(2),
         (QStringList { "Zoom &In", "Zoom &Out", "", "I&mage", "2D Chart of the &Row",
-            "2D Chart of the &Column", "", "&Palette", "", "&Full Screen" }));
-    QCOMPARE(entries(3), (QStringList { "&Mouse and Keys", "&About" }));
+            "2D Chart of the &Column", "", "&Palette", "&Keep Settings", "", "&Full Screen" }));
+    QCOMPARE(entries(3), (QStringList { "&Mouse and Keys", "User &Guide", "&About" }));
 }
 
 void TestViewerMenu::keysAreDifferent()
@@ -198,8 +200,8 @@ void TestViewerMenu::everyEntry_byMouse_data()
             "actionExportNumbers", "actionPrint", "actionClose", "actionQuit" },
         { "actionCopyWindow", "actionCopyCanvas", "actionCopyNumbers", "actionCopyValue" },
         { "actionZoomIn", "actionZoomOut", "actionImageView", "actionRowChart", "actionColumnChart",
-            "actionFullScreen" },
-        { "actionHelp", "actionAbout" }
+            "actionKeepSettings", "actionFullScreen" },
+        { "actionHelp", "actionUserGuide", "actionAbout" }
     };
     for (int menu = 0; menu < menus.size(); ++menu) {
         for (const QString& name : menus[menu]) {
@@ -332,6 +334,7 @@ void TestViewerMenu::reload_keepsTheSettings()
     QCOMPARE(start->text(), QString("300"));
     QCOMPARE(m_viewer->window->focusWidget(), focused);
     QVERIFY(m_viewer->window->statusBar()->currentMessage().isEmpty());
+    m_viewer->action("actionKeepSettings")->trigger();
     press("PgDown"); // another image starts afresh
     QCOMPARE(image->view(), Widget::View::Image);
     QCOMPARE(image->colorPalette(), QString("Gray"));
@@ -558,6 +561,7 @@ void TestViewerMenu::views_markWhatThePanelShows()
     QTRY_VERIFY(marked("actionRowChart"));
     QTest::keyClick(m_viewer->control<QComboBox>("comboBoxDisplay"), Qt::Key_Down);
     QTRY_VERIFY(marked("actionColumnChart") && !marked("actionRowChart"));
+    m_viewer->action("actionKeepSettings")->trigger();
     press("PgDown"); // another image
     QVERIFY(marked("actionImageView"));
 }
@@ -685,6 +689,10 @@ void TestViewerMenu::about()
     const Closer closer;
     m_viewer->action("actionAbout")->trigger();
     QCOMPARE(closer.titles, QStringList("About VKIntensity Viewer"));
+    QVERIFY(aboutText().contains("MIT License"));
+    QVERIFY(aboutText().contains(QString("Qt ") + qVersion()));
+    static const QRegularExpression library("VKIntensityWidget [0-9]+\\.[0-9]+\\.[0-9]+");
+    QVERIFY(aboutText().contains(library));
 }
 
 QTEST_MAIN(TestViewerMenu)

@@ -96,6 +96,7 @@ class TestViewerWindow : public QObject
 
 private Q_SLOTS:
     void initTestCase();
+    void topDownBmp_hasASmallPicture();
     void init();
     void cleanup();
 
@@ -583,6 +584,16 @@ void TestViewerWindow::minimumSize_holdsColumnAndCanvas()
     m_window->resize(10, 10);
     QVERIFY(m_window->openFile(path("lamp.raw")));
     QCOMPARE(m_window->size(), QSize(640, 480));
+}
+
+void TestViewerWindow::topDownBmp_hasASmallPicture()
+{
+    QFile file(path("top.bmp"));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(topDownBmp()) > 0);
+    file.close();
+    const QImage picture = CVKIntensityWidget::preview(file.fileName(), QSize(160, 120));
+    QCOMPARE(picture.size(), QSize(4, 2));
+    QVERIFY(qGray(picture.pixel(0, 0)) < qGray(picture.pixel(0, 1))); // not turned over
 }
 
 QTEST_MAIN(TestViewerWindow)

@@ -410,6 +410,8 @@ void TestVkviewer::failures_data()
         lamp } << "--size needs WIDTHxHEIGHT, each from 1 to 8192";
     QTest::newRow("tiny size") << QStringList { "--screenshot", out, "--size", "20x20", lamp }
                                << "the window is at least 640x480 pixels";
+    QTest::newRow("page that is not there") << QStringList { "--screenshot", out, "--page", "2",
+        lamp } << lamp + ": The file has no such page.";
     QTest::newRow("line feed in the name") << QStringList { "--screenshot", out, "a\nb.png" }
                                            << "a b.png: There is no file of this name.";
 }
