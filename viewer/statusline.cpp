@@ -85,6 +85,7 @@ QVector<StatusLine::Part> StatusLine::partsByImportance() const
 /// Shows the parts that there is room for beside the name, or beside a message in its place.
 void StatusLine::fitParts()
 {
+    m_name->setVisible(currentMessage().isEmpty()); // a new layout would show it below a message
     const int gap = scaledForScreen(10);
     const int message
         = currentMessage().isEmpty() ? 0 : fontMetrics().horizontalAdvance(currentMessage()) + gap;

@@ -240,11 +240,15 @@ void TestPointerReadout::message_isLegible()
     bar->showMessage(QString(60, 'n'));
     QCoreApplication::processEvents();
     int left = bar->width();
+    QString leftmost;
     for (const QWidget* part : bar->findChildren<QLabel*>()) {
-        left = part->isVisible() ? qMin(left, part->mapTo(bar, QPoint()).x()) : left;
+        const int x = part->mapTo(bar, QPoint()).x();
+        if (part->isVisible() && x < left) {
+            left = x;
+            leftmost = part->objectName();
+        }
     }
-    QVERIFY2(left >= bar->fontMetrics().horizontalAdvance(QString(60, 'n')),
-        qPrintable(QString::number(left)));
+    QVERIFY2(left >= bar->fontMetrics().horizontalAdvance(QString(60, 'n')), qPrintable(leftmost));
     bar->clearMessage();
     QCoreApplication::processEvents();
     QVERIFY(m_viewer->window->findChild<QLabel*>("statusPixel")->isVisible());

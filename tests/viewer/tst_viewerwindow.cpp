@@ -96,7 +96,6 @@ class TestViewerWindow : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void topDownBmp_hasASmallPicture();
     void init();
     void cleanup();
 
@@ -132,6 +131,8 @@ private Q_SLOTS:
     void drop_onTheCanvasReachesTheWindow();
     void longNames_doNotWidenTheWindow();
     void minimumSize_holdsColumnAndCanvas();
+
+    void topDownBmp_hasASmallPicture();
 
 private:
     CVKIntensityWidget* intensity() const { return m_window->findChild<CVKIntensityWidget*>(); }
@@ -592,6 +593,7 @@ void TestViewerWindow::topDownBmp_hasASmallPicture()
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(topDownBmp()) > 0);
     file.close();
     const QImage picture = CVKIntensityWidget::preview(file.fileName(), QSize(160, 120));
+    QVERIFY(file.remove()); // the other tests know what is in the folder
     QCOMPARE(picture.size(), QSize(4, 2));
     QVERIFY(qGray(picture.pixel(0, 0)) < qGray(picture.pixel(0, 1))); // not turned over
 }
