@@ -23,6 +23,7 @@ QVector<HelpLine> mouseLines()
         { HelpOverlay::tr("Click the image"), HelpOverlay::tr("Move the cross-hair") },
         { HelpOverlay::tr("Wheel"), HelpOverlay::tr("Zoom the image") },
         { HelpOverlay::tr("Drag a profile"), HelpOverlay::tr("Scroll the zoomed image") },
+        { HelpOverlay::tr("Click a region"), HelpOverlay::tr("Select the region of interest") },
         { HelpOverlay::tr("Drag a region"), HelpOverlay::tr("Move the region of interest") },
         { HelpOverlay::tr("Drag a corner"), HelpOverlay::tr("Resize the region of interest") },
         { HelpOverlay::tr("Click the chart"), HelpOverlay::tr("Read a sample of the profile") },

@@ -8,16 +8,18 @@
 
 namespace {
 
-/// Whether the widget takes page keys itself, or would be left in the middle of a number by them.
+/// Whether the widget takes page keys itself, or would be left in the middle of a number by them
+/// and by the key that adds a region.
 bool isField(const QWidget* focused)
 {
     return qobject_cast<const QLineEdit*>(focused) || qobject_cast<const QComboBox*>(focused);
 }
 
-bool isPageKey(const QKeyEvent& key)
+bool isFieldKey(const QKeyEvent& key)
 {
     return key.modifiers() == Qt::NoModifier
-        && (key.key() == Qt::Key_PageUp || key.key() == Qt::Key_PageDown);
+        && (key.key() == Qt::Key_PageUp || key.key() == Qt::Key_PageDown
+            || key.key() == Qt::Key_Insert);
 }
 
 } // namespace
@@ -47,6 +49,7 @@ void ImagePage::createWidget()
         picture->setMouseTracking(true);
         picture->installEventFilter(this);
     }
+    Q_EMIT imageReplaced(); // what was open in the widget before has gone with it
 }
 
 CVKIntensityWidget* ImagePage::intensityWidget()
@@ -94,6 +97,7 @@ void ImagePage::sltSwitchToGallery()
 
 void ImagePage::imageChanged()
 {
+    Q_EMIT imageReplaced();
     Q_EMIT displayChanged();
 }
 
@@ -105,6 +109,11 @@ void ImagePage::settingsChanged()
 void ImagePage::viewChanged()
 {
     Q_EMIT displayChanged();
+}
+
+void ImagePage::regionsChanged()
+{
+    Q_EMIT regionsEdited();
 }
 
 /// A click on a region marks it on the canvas alone. The panel follows, so that both mean the
@@ -125,11 +134,12 @@ void ImagePage::selectionChanged()
     Q_EMIT displayChanged();
 }
 
-/// Page keys pressed in a field of the panel do not lead to another image.
+/// Page keys pressed in a field of the panel do not lead to another image, and Insert adds no
+/// region.
 bool ImagePage::event(QEvent* event)
 {
     if (event->type() == QEvent::ShortcutOverride && isField(window()->focusWidget())
-        && isPageKey(*static_cast<QKeyEvent*>(event))) {
+        && isFieldKey(*static_cast<QKeyEvent*>(event))) {
         event->accept();
         return true;
     }

@@ -47,6 +47,12 @@ Q_SIGNALS:
     void pointerMoved(const QPoint& position);
     void pointerLeft();
 
+    /// Another image is open than before, or none.
+    void imageReplaced();
+
+    /// Regions were added, moved, resized or removed, by the user or by calls.
+    void regionsEdited();
+
 protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -54,6 +60,7 @@ protected:
 private:
     void imageChanged() override;
     void viewChanged() override;
+    void regionsChanged() override;
     void settingsChanged() override;
     void selectionChanged() override;
     void createWidget();

@@ -32,6 +32,7 @@ ViewerMenu::ViewerMenu(QMainWindow* window)
 {
     buildFileMenu();
     buildEditMenu();
+    buildRegionsMenu();
     buildViewMenu();
     buildHelpMenu();
     m_window->addActions(m_actions);
@@ -126,9 +127,27 @@ void ViewerMenu::buildEditMenu()
         Needs::Image);
     add(menu, ViewerCommand::CopyValue, "actionCopyValue", tr("Copy &Value"), {}, Needs::Image);
     setCopyKey(false);
-    menu->addSeparator();
+}
+
+void ViewerMenu::buildRegionsMenu()
+{
+    QMenu* menu = addMenu(tr("&Regions"));
+    add(menu, ViewerCommand::AddRegion, "actionAddRegion", tr("&Add Region"),
+        { QKeySequence("Ins") });
+    add(menu, ViewerCommand::AddRegionByNumbers, "actionAddRegionByNumbers",
+        tr("Add Region by &Numbers..."), { QKeySequence("Shift+Ins") })
+        ->setWhatsThis(tr("Add by Numbers"));
+    add(menu, ViewerCommand::EditRegion, "actionEditRegion", tr("&Edit Numbers..."),
+        { QKeySequence(Qt::Key_F2) });
     add(menu, ViewerCommand::DeleteRegion, "actionDeleteRegion", tr("&Delete Region"),
         { QKeySequence(Qt::Key_Delete) });
+    menu->addSeparator();
+    add(menu, ViewerCommand::Undo, "actionUndo", tr("&Undo"), { QKeySequence("Ctrl+Z") });
+    add(menu, ViewerCommand::Redo, "actionRedo", tr("&Redo"),
+        { QKeySequence("Ctrl+Shift+Z"), QKeySequence("Ctrl+Y") });
+    menu->addSeparator();
+    add(menu, ViewerCommand::SaveRegions, "actionSaveRegions", tr("&Save Regions..."), {});
+    add(menu, ViewerCommand::LoadRegions, "actionLoadRegions", tr("&Load Regions..."), {});
 }
 
 void ViewerMenu::buildViewMenu()
@@ -138,6 +157,8 @@ void ViewerMenu::buildViewMenu()
         { QKeySequence("Ctrl++"), QKeySequence("Ctrl+=") });
     m_zoomActions << add(
         menu, ViewerCommand::ZoomOut, "actionZoomOut", tr("Zoom &Out"), { QKeySequence("Ctrl+-") });
+    m_zoomActions << add(
+        menu, ViewerCommand::Fit, "actionFit", tr("&Whole Image"), { QKeySequence("Ctrl+0") });
     menu->addSeparator();
     addViews(menu);
     menu->addSeparator();

@@ -35,9 +35,17 @@ enum class ViewerCommand {
     CopyCanvas,
     CopyNumbers,
     CopyValue,
+    AddRegion,
+    AddRegionByNumbers,
+    EditRegion,
     DeleteRegion,
+    Undo,
+    Redo,
+    SaveRegions,
+    LoadRegions,
     ZoomIn,
     ZoomOut,
+    Fit,
     ImageView,
     RowChart,
     ColumnChart,
@@ -94,6 +102,7 @@ private:
     void addOutput(QMenu* menu);
     void buildRecentMenu(QMenu* menu);
     void buildEditMenu();
+    void buildRegionsMenu();
     void buildViewMenu();
     void addViews(QMenu* menu);
     void addPalettes(QMenu* menu);

@@ -2,6 +2,7 @@
 
 #include "about.h"
 #include "appearance.h"
+#include "crosshairkeys.h"
 #include "filedrop.h"
 #include "gallerypage.h"
 #include "helpoverlay.h"
@@ -16,6 +17,7 @@
 #include "picturecommands.h"
 #include "pointerreadout.h"
 #include "printcommand.h"
+#include "regioncommands.h"
 #include "settingskeeper.h"
 #include "statusline.h"
 #include "userguide.h"
@@ -51,7 +53,7 @@ ViewerWindow::ViewerWindow(QWidget* parent)
     m_status = new StatusLine;
     setStatusBar(m_status);
     createMenu();
-    m_help = new HelpOverlay(m_menu->keys(), this);
+    m_help = new HelpOverlay(m_menu->keys() + CrossHairKeys::help(), this);
     connectDocument();
     new UserGuide(m_menu, this);
     connect(m_status, &QStatusBar::messageChanged, this, &ViewerWindow::updateBars);
@@ -107,10 +109,9 @@ void ViewerWindow::connectImage()
 {
     using Widget = CVKIntensityWidget;
     const QVector<QPair<ViewerCommand, std::function<void(Widget*)>>> commands {
-        { ViewerCommand::DeleteRegion,
-            [](Widget* image) { image->removeRegion(image->selectedRegion()); } },
         { ViewerCommand::ZoomIn, [](Widget* image) { image->zoomIn(); } },
         { ViewerCommand::ZoomOut, [](Widget* image) { image->zoomOut(); } },
+        { ViewerCommand::Fit, [](Widget* image) { image->fit(); } },
         { ViewerCommand::ImageView, [](Widget* image) { image->setView(Widget::View::Image); } },
         { ViewerCommand::RowChart, [](Widget* image) { image->setView(Widget::View::RowChart); } },
         { ViewerCommand::ColumnChart,
@@ -122,6 +123,8 @@ void ViewerWindow::connectImage()
     }
     connect(m_menu, &ViewerMenu::paletteChosen, this, &ViewerWindow::choosePalette);
     connect(m_imagePage, &ImagePage::displayChanged, this, &ViewerWindow::updateMenu);
+    m_regions = new RegionCommands(m_menu, m_imagePage);
+    new CrossHairKeys(m_imagePage);
 }
 
 void ViewerWindow::choosePalette(const QString& name)
@@ -181,8 +184,6 @@ void ViewerWindow::updateMenu()
     m_menu->setAvailable(isImage, isFile);
     m_menu->action(ViewerCommand::Reload)->setEnabled(isFile || page == m_galleryPage);
     m_menu->setZoomAvailable(isImage && view == CVKIntensityWidget::View::Image);
-    m_menu->action(ViewerCommand::DeleteRegion)
-        ->setEnabled(isImage && image->selectedRegion() >= 0);
     m_menu->markView(view);
     const RecentFiles& files = m_session.recentFiles();
     QStringList recent;
@@ -224,6 +225,7 @@ void ViewerWindow::showImage(qint64 milliseconds, const QString& problem)
     if (!problem.isEmpty()) {
         m_status->showMessage(tr("Not all is as before: %1.").arg(problem));
     }
+    m_regions->forgetSteps(); // regions that were put back are none of the user's changes
     updateBars();
 }
 
@@ -376,11 +378,19 @@ void ViewerWindow::reload()
     }
 }
 
+QSize ViewerWindow::imageSize() const
+{
+    return m_imagePage->intensityWidget()->imageInfo().size;
+}
+
 QString ViewerWindow::applySettings(const DisplaySettings& settings)
 {
-    return m_pages->currentWidget() == m_imagePage
-        ? ::applySettings(settings, m_imagePage->intensityWidget())
-        : tr("only an image has controls to set");
+    if (m_pages->currentWidget() != m_imagePage) {
+        return tr("only an image has controls to set");
+    }
+    const QString problem = ::applySettings(settings, m_imagePage->intensityWidget());
+    m_regions->forgetSteps();
+    return problem;
 }
 
 void ViewerWindow::hideLoadTime()
@@ -464,6 +474,10 @@ void ViewerWindow::dropEvent(QDropEvent* event)
     const QString path = acceptedFile(event);
     if (!path.isEmpty()) {
         // The program that the file comes from waits until the event is answered.
-        QTimer::singleShot(0, this, [this, path] { openPath(path); });
+        QTimer::singleShot(0, this, [this, path] {
+            if (!m_regions->takesFile(path)) {
+                openPath(path);
+            }
+        });
     }
 }

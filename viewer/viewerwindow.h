@@ -15,6 +15,7 @@ class LoadProblemPage;
 class NextImageReader;
 class QSettings;
 class QStackedWidget;
+class RegionCommands;
 class SettingsKeeper;
 class StatusLine;
 class ViewerMenu;
@@ -49,6 +50,9 @@ public:
 
     /// Why the file last opened is not shown; empty when it is, or when none is open.
     QString problem() const;
+
+    /// Of the image in front, in pixels; not valid without one.
+    QSize imageSize() const;
 
     /// Sets how the image in front is shown. Returns one line that says what went wrong; empty on
     /// success.
@@ -119,6 +123,7 @@ private:
     GalleryPage* m_galleryPage = nullptr;
     ImagePage* m_imagePage = nullptr;
     ViewerMenu* m_menu = nullptr;
+    RegionCommands* m_regions = nullptr;
     HelpOverlay* m_help = nullptr;
     StatusLine* m_status = nullptr;
     ImageDocument* m_document = nullptr;

@@ -22,9 +22,11 @@ struct NamedControl
     const char* spoken; ///< null where the control carries a text of its own
 };
 
-/// In the order in which they stand: the panel from top to bottom, then the canvas. The two fold
-/// buttons share one object name.
+/// In the order in which the focus passes them: the buttons on the canvas, then the panel from top
+/// to bottom. The two fold buttons share one object name.
 constexpr NamedControl namedControls[] {
+    { "tool_Zoom_In", QT_TRANSLATE_NOOP("WidgetAccess", "Zoom in") },
+    { "tool_Zoom_Out", QT_TRANSLATE_NOOP("WidgetAccess", "Zoom out") },
     { "Return", QT_TRANSLATE_NOOP("WidgetAccess", "Return to the gallery") },
     { "left_flex1", QT_TRANSLATE_NOOP("WidgetAccess", "Fold the display preferences") },
     { "radioButtonImage", nullptr },
@@ -46,8 +48,6 @@ constexpr NamedControl namedControls[] {
     { "comboBoxRoi", QT_TRANSLATE_NOOP("WidgetAccess", "Region of interest") },
     { "pushButtonAdd", QT_TRANSLATE_NOOP("WidgetAccess", "Add a region of interest") },
     { "pushButtonDelete", QT_TRANSLATE_NOOP("WidgetAccess", "Delete the region of interest") },
-    { "tool_Zoom_In", QT_TRANSLATE_NOOP("WidgetAccess", "Zoom in") },
-    { "tool_Zoom_Out", QT_TRANSLATE_NOOP("WidgetAccess", "Zoom out") },
 };
 
 constexpr char panelName[] = "Scroll_ModuleWidget";
@@ -82,6 +82,7 @@ void WidgetAccess::prepare()
     scrollInsteadOfChoosing();
     if (auto* view = m_widget->findChild<QGraphicsView*>()) {
         view->viewport()->installEventFilter(new WheelNotchFilter(view));
+        view->setFocusPolicy(Qt::StrongFocus); // for arrow keys
         view->setAccessibleName(QCoreApplication::translate("WidgetAccess", "Image"));
     }
     nameControls();
@@ -129,9 +130,9 @@ void WidgetAccess::nameControls()
 
 void WidgetAccess::orderControls()
 {
-    constexpr int zoomButtons = 2; // stand on the canvas, which is passed before them
-    QVector<QWidget*> controls = controlsInOrder(m_widget);
-    controls.insert(controls.size() - zoomButtons, canvas());
+    constexpr int panelPlace = 3; // behind the canvas and the two zoom buttons
+    QVector<QWidget*> controls = QVector<QWidget*> { canvas() } + controlsInOrder(m_widget);
+    controls.insert(panelPlace, m_widget->findChild<QWidget*>(panelName));
     QWidget* previous = nullptr;
     for (QWidget* next : controls) {
         if (previous && next) {
