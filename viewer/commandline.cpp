@@ -106,6 +106,12 @@ QString readRegion(const QString& value, CommandLine* line)
         : QString();
 }
 
+QString readRegionFileName(const QString& value, CommandLine* line)
+{
+    line->regionFile = value;
+    return value.isEmpty() ? CommandLine::tr("--regions needs a file name") : QString();
+}
+
 QString readScreenshot(const QString& value, CommandLine* line)
 {
     line->screenshot = value;
@@ -124,6 +130,7 @@ QString readOption(const QString& option, QStringList* rest, CommandLine* line)
         { "--peaks", readPeaks },
         { "--palette", readPalette },
         { "--roi", readRegion },
+        { "--regions", readRegionFileName },
         { "--wavelength", readWavelength },
     };
     const Reader reader = readers.value(option);
@@ -151,10 +158,10 @@ QString contradiction(const CommandLine& line)
         if (line.size.isValid()) {
             return CommandLine::tr("--size goes with --screenshot");
         }
-        return line.settings.isEmpty()
+        return line.settings.isEmpty() && line.regionFile.isEmpty()
             ? QString()
-            : CommandLine::tr("--view, --peaks, --palette, --roi and --wavelength go with "
-                              "--screenshot");
+            : CommandLine::tr("--view, --peaks, --palette, --roi, --regions and --wavelength "
+                              "go with --screenshot");
     }
     if (line.image.isEmpty()) {
         return CommandLine::tr("--screenshot needs an image to show");
@@ -230,6 +237,8 @@ QString commandLineHelp()
         "  --palette NAME          gray, red, green, blue or color\n"
         "  --roi X,Y,WIDTH,HEIGHT  mark exactly these pixels, counted from the top left; can be\n"
         "                          given more than once\n"
+        "  --regions FILE.reg      mark the regions of a DS9 region file; what is left out is "
+        "told\n"
         "  --wavelength START,WIDTH[,UNIT]\n"
         "                          label the axis in wavelengths: that of the first pixel, 0 to\n"
         "                          2000, what each pixel adds, 1 to 100, and the unit, um or nm\n"

@@ -20,6 +20,7 @@ public:
     QString screenshot; ///< file to save the window to; empty: an ordinary session
     QSize size; ///< window size in pixels; not valid: that of a first start
     DisplaySettings settings; ///< for a screenshot
+    QString regionFile; ///< regions to be added to those of the settings; empty: none
     QString error; ///< one line; empty when the arguments make sense
 };
 

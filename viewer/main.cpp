@@ -29,9 +29,14 @@ bool hasArgument(int argc, char* argv[], const char* wanted)
     return false;
 }
 
-int fail(const QString& message)
+void tell(const QString& message)
 {
     std::fprintf(stderr, "vkviewer: %s\n", qUtf8Printable(message.simplified()));
+}
+
+int fail(const QString& message)
+{
+    tell(message);
     return 1;
 }
 
@@ -157,6 +162,10 @@ int main(int argc, char* argv[])
         return runWindow(&window, line);
     }
     window.resize(startSize()); // a picture may be larger than the screen
-    const QString problem = takeScreenshot(&window, line);
+    QString notice;
+    const QString problem = takeScreenshot(&window, line, &notice);
+    if (!notice.isEmpty()) {
+        tell(notice);
+    }
     return problem.isEmpty() ? 0 : fail(problem);
 }

@@ -3,6 +3,7 @@
 #include "commandline.h"
 #include "filesaver.h"
 #include "quietstderr.h"
+#include "regionfile.h"
 #include "viewerwindow.h"
 
 #include <QCoreApplication>
@@ -75,6 +76,39 @@ QPixmap pictureOf(ViewerWindow* window, const QSize& pixels)
     return pixels.isValid() ? picture.copy(QRect(QPoint(), pixels)) : picture;
 }
 
+/// Adds the regions of a file to the settings, as far as it has some for this image.
+QString addRegions(
+    const QString& path, const QSize& image, DisplaySettings* settings, QString* notice)
+{
+    const RegionFile file = readRegionFile(path, image);
+    if (!file.problem.isEmpty()) {
+        return file.problem;
+    }
+    settings->regions << file.regions;
+    if (!file.skipped.isEmpty()) {
+        *notice = Screenshot::tr("%1: left out: %2").arg(path, file.skipped);
+    }
+    return QString();
+}
+
+/// Sets what was asked for. Returns what went wrong as one line; empty on success.
+QString setUp(ViewerWindow* window, const CommandLine& line, QString* notice)
+{
+    if (line.settings.isEmpty() && line.regionFile.isEmpty()) {
+        return QString();
+    }
+    DisplaySettings settings = line.settings;
+    const QSize image = window->imageSize();
+    if (!line.regionFile.isEmpty() && !image.isEmpty()) {
+        const QString unread = addRegions(line.regionFile, image, &settings, notice);
+        if (!unread.isEmpty()) {
+            return unread;
+        }
+    }
+    const QString problem = window->applySettings(settings);
+    return problem.isEmpty() ? QString() : QString("%1: %2").arg(line.image, problem);
+}
+
 QString sizeProblem(const ViewerWindow& window, const QSize& size)
 {
     const QSize least = window.minimumSize() * window.devicePixelRatioF();
@@ -88,7 +122,7 @@ QString sizeProblem(const ViewerWindow& window, const QSize& size)
 
 } // namespace
 
-QString takeScreenshot(ViewerWindow* window, const CommandLine& line)
+QString takeScreenshot(ViewerWindow* window, const CommandLine& line, QString* notice)
 {
     const QString tooSmall = sizeProblem(*window, line.size);
     if (!tooSmall.isEmpty()) {
@@ -104,12 +138,10 @@ QString takeScreenshot(ViewerWindow* window, const CommandLine& line)
         return QString("%1: %2").arg(line.image, window->problem());
     }
     settle(*window);
-    if (!line.settings.isEmpty()) {
-        const QString problem = window->applySettings(line.settings);
-        if (!problem.isEmpty()) {
-            return QString("%1: %2").arg(line.image, problem);
-        }
-        settle(*window);
+    const QString problem = setUp(window, line, notice);
+    if (!problem.isEmpty()) {
+        return problem;
     }
+    settle(*window);
     return savePicture(pictureOf(window, line.size), line.screenshot);
 }

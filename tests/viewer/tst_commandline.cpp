@@ -113,9 +113,9 @@ void TestCommandLine::size()
 void TestCommandLine::settings_areReadIntoTheirFields()
 {
     QVERIFY(parsedCommandLine({ "--screenshot", "o.png", "a.raw" }).settings.isEmpty());
-    const CommandLine line
-        = parsedCommandLine({ "--screenshot", "o.png", "--view", "y", "--peaks", "12", "--palette",
-            "red", "--roi", "1,2,30,40", "--roi", "0,0,1,1", "--wavelength", "100,2", "a.raw" });
+    const CommandLine line = parsedCommandLine({ "--screenshot", "o.png", "--view", "y", "--peaks",
+        "12", "--palette", "red", "--roi", "1,2,30,40", "--roi", "0,0,1,1", "--wavelength", "100,2",
+        "--regions", "b.reg", "a.raw" });
     QCOMPARE(line.error, QString());
     const DisplaySettings& settings = line.settings;
     QVERIFY(settings.view && *settings.view == Widget::View::ColumnChart);
@@ -125,6 +125,7 @@ void TestCommandLine::settings_areReadIntoTheirFields()
     const Widget::Calibration wanted { 100, 2, Widget::Unit::Micrometers };
     QVERIFY(settings.calibration && *settings.calibration == wanted);
     QVERIFY(!settings.chartAxis);
+    QCOMPARE(line.regionFile, QString("b.reg"));
     QVERIFY(!settings.isEmpty());
 }
 
@@ -216,8 +217,13 @@ void TestCommandLine::mistakes_data()
     QTest::newRow("size without value") << QStringList { "--screenshot", "o.png", "a", "--size" }
                                         << "--size needs WIDTHxHEIGHT, each from 1 to 8192";
     const QString together
-        = "--view, --peaks, --palette, --roi and --wavelength go with --screenshot";
+        = "--view, --peaks, --palette, --roi, --regions and --wavelength go with --screenshot";
     QTest::newRow("view alone") << QStringList { "--view", "x", "a.raw" } << together;
+    QTest::newRow("region file alone") << QStringList { "--regions", "a.reg", "a" } << together;
+    for (const QStringList& end : { QStringList { "--regions" }, { "--regions", "" } }) {
+        QTest::newRow(qPrintable(QString("region file missing, %1").arg(end.size())))
+            << QStringList { "--screenshot", "o.png", "a" } + end << "--regions needs a file name";
+    }
     QTest::newRow("region alone") << QStringList { "--roi", "1,1,1,1", "a.raw" } << together;
     QTest::newRow("unknown view") << QStringList { "--screenshot", "o.png", "--view", "z", "a" }
                                   << "--view needs image, x or y";
@@ -250,8 +256,8 @@ void TestCommandLine::mistakes()
 
 void TestCommandLine::help_namesEveryOption()
 {
-    for (const char* option : { "--page", "--screenshot", "--size", "--view", "--peaks", "--palette", "--roi",
-             "--wavelength", "--help", "--version" }) {
+    for (const char* option : { "--page", "--screenshot", "--size", "--view", "--peaks", "--palette",
+             "--roi", "--regions", "--wavelength", "--help", "--version" }) {
         QVERIFY(commandLineHelp().contains(option));
     }
 }

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void screenshot_ofAGallery();
     void screenshot_ofAGalleryOfHostileFiles();
     void screenshot_withRegions();
+    void screenshot_withARegionFile();
     void screenshot_ofTheCharts();
     void screenshot_inAPalette();
     void screenshot_ofControlsInASmallWindow();
@@ -265,6 +266,29 @@ void TestVkviewer::screenshot_withRegions()
     QVERIFY(m_output.isEmpty()); // they are exactly what was asked for
 }
 
+/// The same regions as boxes, which count y from the bottom row and from the middle of pixels.
+void TestVkviewer::screenshot_withARegionFile()
+{
+    const QString target = sample("dim-cells-12bit.raw"); // 1280 x 960
+    const QStringList start { "--screenshot", path("boxes.png"), "--size", "1280x900" };
+    const QByteArray boxes = "image\nbox(350.5,760.5,300,200,0)\nbox(1000.5,310.5,400,300,0)\n";
+    const auto shown = [&](const QStringList& options) {
+        return run(start + options + QStringList { target }) == 0 ? QImage(path("boxes.png"))
+                                                                  : QImage();
+    };
+    const QImage expected = shown({ "--roi", "200,100,300,200", "--roi", "800,500,400,300" });
+    QVERIFY(!expected.isNull());
+    QCOMPARE(shown({ "--regions", written("boxes.reg", boxes) }), expected);
+    QVERIFY2(m_errors.isEmpty(), m_errors.constData());
+    const QByteArray more = "circle(9,9,5)\nfk5\nbox(9,9,5,5,0)\n";
+    const QString mixed = written("mixed.reg", boxes + more);
+    QCOMPARE(shown({ "--regions", mixed }), expected);
+    QCOMPARE(QString::fromLocal8Bit(m_errors),
+        QString("vkviewer: %1: left out: shapes other than upright boxes (1), shapes in other than "
+                "image coordinates (1)\n")
+            .arg(mixed));
+}
+
 void TestVkviewer::screenshot_ofTheCharts()
 {
     const QString lamp = sample("lamp-spectrum.raw");
@@ -402,6 +426,14 @@ void TestVkviewer::failures_data()
     QTest::newRow("region outside")
         << QStringList { "--screenshot", out, "--roi", "1000,0,25,10", lamp }
         << lamp + ": the region 1000,0,25,10 does not lie inside the image of 1024x256 pixels";
+    const QString empty = written("empty.reg", QByteArray());
+    const QString noRegions = path("gone.reg");
+    QTest::newRow("no region file") << QStringList { "--screenshot", out, "--regions", noRegions,
+        lamp } << noRegions + ": cannot be read: No such file or directory";
+    QTest::newRow("region file without regions") << QStringList { "--screenshot", out, "--regions",
+        empty, lamp } << empty + ": there is no region in it";
+    QTest::newRow("regions of a folder") << QStringList { "--screenshot", out, "--regions", empty,
+        m_folder.path() } << m_folder.path() + ": only an image has controls to set";
     QTest::newRow("controls of a folder") << QStringList { "--screenshot", out, "--view", "x",
         m_folder.path() } << m_folder.path() + ": only an image has controls to set";
     QTest::newRow("unknown palette") << QStringList { "--screenshot", out, "--palette", "pink",
