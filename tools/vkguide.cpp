@@ -54,7 +54,8 @@ QString htmlOf(const QString& markdown)
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         QTextCursor(block).setBlockCharFormat(QTextCharFormat()); // else Qt 5 makes all of it bold
     }
-    static const QRegularExpression style(R"rx((<(?:body|p|h[1-6]|[uo]l|li|pre))(?: style="[^"]*")+)rx");
+    static const QRegularExpression style(
+        R"rx((<(?:body|p|h[1-6]|[uo]l|li|pre))(?: style="[^"]*")+)rx");
     static const QRegularExpression font(R"( *(font-(family|size)|color|text-decoration):[^;"]*;)");
     static const QRegularExpression page(R"rx(href="([^":/]+)\.md")rx");
     return document.toHtml()

@@ -5,8 +5,8 @@
 #include <QStyledItemDelegate>
 
 /// Paints the tiles of a gallery, all of the same size: the picture in the middle of a frame, the
-/// file's name in one or two lines below it. A file without a picture has an empty frame while it waits,
-/// a crossed-out one when it cannot be shown, and one that says so when it is too large.
+/// file's name in one or two lines below it. A file without a picture has an empty frame while it
+/// waits, a crossed-out one when it cannot be shown, and one that says so when it is too large.
 class GalleryDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

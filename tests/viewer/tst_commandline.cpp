@@ -256,8 +256,8 @@ void TestCommandLine::mistakes()
 
 void TestCommandLine::help_namesEveryOption()
 {
-    for (const char* option : { "--page", "--screenshot", "--size", "--view", "--peaks", "--palette",
-             "--roi", "--regions", "--wavelength", "--help", "--version" }) {
+    for (const char* option : { "--page", "--screenshot", "--size", "--view", "--peaks",
+             "--palette", "--roi", "--regions", "--wavelength", "--help", "--version" }) {
         QVERIFY(commandLineHelp().contains(option));
     }
 }
