@@ -88,7 +88,8 @@ void ExportDialog::addFormats(QVBoxLayout* layout, bool isJson)
 
 QDialogButtonBox* ExportDialog::buttons(Way first)
 {
-    auto* box = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    // A default button has to know its dialog.
+    auto* box = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
     QPushButton* const file = box->addButton(tr("Sa&ve..."), QDialogButtonBox::AcceptRole);
     QPushButton* const clipboard = box->addButton(tr("C&opy"), QDialogButtonBox::ActionRole);
     file->setObjectName("exportSave");
