@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>About</name>
+    <message>
+        <source>VKIntensity Viewer %1</source>
+        <translation>VKIntensity Viewer %1</translation>
+    </message>
+    <message>
+        <source>Shows what is in a camera image: profiles, charts with labelled peaks, regions of interest and their statistics.</source>
+        <translation>Zeigt, was in einem Kamerabild steckt: Profile, Diagramme mit beschrifteten Peaks, ROIs und ihre Statistik.</translation>
+    </message>
+    <message>
+        <source>Library VKIntensityWidget %1, Qt %2</source>
+        <translation>Bibliothek VKIntensityWidget %1, Qt %2</translation>
+    </message>
+    <message>
+        <source>Copyright © 2026 The VKIntensityWidget developers</source>
+        <translation>Copyright © 2026 The VKIntensityWidget developers</translation>
+    </message>
+    <message>
+        <source>Free software under the MIT License; see the file LICENSE.</source>
+        <translation>Freie Software unter der MIT-Lizenz; siehe die Datei LICENSE.</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>--size needs WIDTHxHEIGHT, each from 1 to %1</source>
@@ -48,10 +71,6 @@
         <translation>--size gehört zu --screenshot</translation>
     </message>
     <message>
-        <source>--view, --peaks, --palette, --roi and --wavelength go with --screenshot</source>
-        <translation>--view, --peaks, --palette, --roi und --wavelength gehören zu --screenshot</translation>
-    </message>
-    <message>
         <source>--screenshot needs an image to show</source>
         <translation>--screenshot verlangt ein Bild</translation>
     </message>
@@ -64,13 +83,30 @@
         <translation>es gibt keine Anzeige für ein Fenster (--screenshot braucht keine)</translation>
     </message>
     <message>
-        <source>Usage: vkviewer [IMAGE | FOLDER]
+        <source>--page needs the number of a page, from 1 to %1</source>
+        <translation>--page verlangt die Nummer einer Seite, von 1 bis %1</translation>
+    </message>
+    <message>
+        <source>--regions needs a file name</source>
+        <translation>--regions verlangt einen Dateinamen</translation>
+    </message>
+    <message>
+        <source>--page needs an image to show</source>
+        <translation>--page verlangt ein Bild</translation>
+    </message>
+    <message>
+        <source>--view, --peaks, --palette, --roi, --regions and --wavelength go with --screenshot</source>
+        <translation>--view, --peaks, --palette, --roi, --regions und --wavelength gehören zu --screenshot</translation>
+    </message>
+    <message>
+        <source>Usage: vkviewer [--page N] [IMAGE | FOLDER]
        vkviewer --screenshot FILE.png [OPTIONS] IMAGE | FOLDER
 
 Shows a camera image with its intensity profiles, rulers and palette.
 IMAGE is a jpg, jpeg, tif, tiff, bmp or png picture or a raw camera file; of a FOLDER
 its images are shown in a gallery.
 
+  --page N                show page N of a TIFF file with several pages, counted from 1
   --screenshot FILE.png   save the window as a picture and exit
   --size WIDTHxHEIGHT     size of that window in pixels, else 1280x800 at 96 dpi
   --view image|x|y        show the image, or its row or column as a chart
@@ -78,19 +114,21 @@ its images are shown in a gallery.
   --palette NAME          gray, red, green, blue or color
   --roi X,Y,WIDTH,HEIGHT  mark exactly these pixels, counted from the top left; can be
                           given more than once
+  --regions FILE.reg      mark the regions of a DS9 region file; what is left out is told
   --wavelength START,WIDTH[,UNIT]
                           label the axis in wavelengths: that of the first pixel, 0 to
                           2000, what each pixel adds, 1 to 100, and the unit, um or nm
   --help                  show this text
   --version               show the version
 </source>
-        <translation>Aufruf: vkviewer [BILD | ORDNER]
+        <translation>Aufruf: vkviewer [--page N] [BILD | ORDNER]
         vkviewer --screenshot DATEI.png [OPTIONEN] BILD | ORDNER
 
 Zeigt ein Kamerabild mit seinen Intensitätsprofilen, Linealen und seiner Palette.
 BILD ist eine Datei jpg, jpeg, tif, tiff, bmp oder png oder eine Rohdatei der Kamera;
 von einem ORDNER werden die Bilder in einer Galerie gezeigt.
 
+  --page N                Seite N einer TIFF-Datei mit mehreren Seiten zeigen, ab 1 gezählt
   --screenshot DATEI.png  das Fenster als Bild speichern und beenden
   --size BREITExHÖHE      Größe dieses Bildes in Pixeln, sonst 1280x800 bei 96 dpi
   --view image|x|y        das Bild, oder seine Zeile oder Spalte als Diagramm zeigen
@@ -98,6 +136,7 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
   --palette NAME          gray, red, green, blue oder color
   --roi X,Y,BREITE,HÖHE   genau diese Pixel markieren, von links oben gezählt;
                           mehrfach möglich
+  --regions DATEI.reg     die Regionen einer DS9-Datei markieren; was fehlt, wird gemeldet
   --wavelength START,BREITE[,EINHEIT]
                           die Achse in Wellenlängen beschriften: die des ersten Pixels,
                           0 bis 2000, was jedes Pixel hinzufügt, 1 bis 100, und die
@@ -105,6 +144,25 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
   --help                  diesen Text zeigen
   --version               die Version zeigen
 </translation>
+    </message>
+</context>
+<context>
+    <name>CrossHairKeys</name>
+    <message>
+        <source>Arrows</source>
+        <translation>Pfeiltasten</translation>
+    </message>
+    <message>
+        <source>Move the cross-hair</source>
+        <translation>Fadenkreuz bewegen</translation>
+    </message>
+    <message>
+        <source>Shift+Arrows</source>
+        <translation>Umschalt+Pfeile</translation>
+    </message>
+    <message>
+        <source>Move it by 10 pixels</source>
+        <translation>um 10 Pixel bewegen</translation>
     </message>
 </context>
 <context>
@@ -139,6 +197,84 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
     <message>
         <source>Choose Folder...</source>
         <translation>Ordner wählen...</translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message>
+        <source>&amp;Statistics of all regions</source>
+        <translation>&amp;Statistik aller ROIs</translation>
+    </message>
+    <message>
+        <source>&amp;Histogram of the image</source>
+        <translation>&amp;Histogramm des Bildes</translation>
+    </message>
+    <message>
+        <source>Histogram of the selected r&amp;egion</source>
+        <translation>Histogramm der ge&amp;wählten ROI</translation>
+    </message>
+    <message>
+        <source>&amp;Row through the cross-hair</source>
+        <translation>Z&amp;eile durch das Fadenkreuz</translation>
+    </message>
+    <message>
+        <source>&amp;Column through the cross-hair</source>
+        <translation>S&amp;palte durch das Fadenkreuz</translation>
+    </message>
+    <message>
+        <source>&amp;Peaks of this row</source>
+        <translation>Peaks dieser Ze&amp;ile</translation>
+    </message>
+    <message>
+        <source>Pea&amp;ks of this column</source>
+        <translation>Peaks &amp;dieser Spalte</translation>
+    </message>
+    <message>
+        <source>Export Numbers</source>
+        <translation>Zahlen exportieren</translation>
+    </message>
+    <message>
+        <source>Copy Numbers</source>
+        <translation>Zahlen kopieren</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>Zahlen</translation>
+    </message>
+    <message>
+        <source>Format of the file</source>
+        <translation>Format der Datei</translation>
+    </message>
+    <message>
+        <source>CS&amp;V, a table</source>
+        <translation>CS&amp;V, eine Tabelle</translation>
+    </message>
+    <message>
+        <source>&amp;JSON, for programs</source>
+        <translation>&amp;JSON, für Programme</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve...</source>
+        <translation>Spei&amp;chern...</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>The numbers as a table that can be pasted into a spreadsheet</source>
+        <translation>Die Zahlen als Tabelle, die sich in eine Tabellenkalkulation einfügen lässt</translation>
+    </message>
+</context>
+<context>
+    <name>FileSaver</name>
+    <message>
+        <source>%1: cannot be written: %2</source>
+        <translation>%1: kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>%1: this is the image that is shown. Choose another name.</source>
+        <translation>%1: Das ist das angezeigte Bild. Bitte einen anderen Namen wählen.</translation>
     </message>
 </context>
 <context>
@@ -284,6 +420,14 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
         <source>Open the image</source>
         <translation>Bild öffnen</translation>
     </message>
+    <message>
+        <source>Click a region</source>
+        <translation>ROI anklicken</translation>
+    </message>
+    <message>
+        <source>Select the region of interest</source>
+        <translation>ROI auswählen</translation>
+    </message>
 </context>
 <context>
     <name>ImageFiles</name>
@@ -294,6 +438,73 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
     <message>
         <source>All files (*)</source>
         <translation>Alle Dateien (*)</translation>
+    </message>
+</context>
+<context>
+    <name>ImageReport</name>
+    <message>
+        <source>Region</source>
+        <translation>ROI</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Mittelwert</translation>
+    </message>
+    <message>
+        <source>Deviation</source>
+        <translation>Standardabw.</translation>
+    </message>
+    <message>
+        <source>Signal to Noise</source>
+        <translation>Signal/Rauschen</translation>
+    </message>
+    <message>
+        <source>Cross-hair: X %1, Y %2, value %3</source>
+        <translation>Fadenkreuz: X %1, Y %2, Wert %3</translation>
+    </message>
+    <message>
+        <source>Wavelengths: %1 %3 at pixel 0, %2 %3 a pixel</source>
+        <translation>Wellenlängen: %1 %3 bei Pixel 0, %2 %3 je Pixel</translation>
+    </message>
+    <message>
+        <source>X and Y count from 0 at the top left pixel.</source>
+        <translation>X und Y zählen ab 0 beim Pixel oben links.</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>ROI %1</source>
+        <translation>ROI %1</translation>
     </message>
 </context>
 <context>
@@ -349,10 +560,6 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
     <message>
         <source>signed samples as whole numbers</source>
         <translation>Werte mit Vorzeichen als ganze Zahlen</translation>
-    </message>
-    <message>
-        <source>page %1 of %2</source>
-        <translation>Seite %1 von %2</translation>
     </message>
     <message>
         <source>%1 × %2 pixels</source>
@@ -419,14 +626,84 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
     </message>
 </context>
 <context>
-    <name>PictureFile</name>
+    <name>NumberCommands</name>
     <message>
-        <source>%1: cannot be written: %2</source>
-        <translation>%1: kann nicht geschrieben werden: %2</translation>
+        <source>The image has changed, and these numbers are gone.</source>
+        <translation>Das Bild hat sich geändert, diese Zahlen gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the numbers.</source>
+        <translation>Für die Zahlen reicht der Speicher nicht.</translation>
+    </message>
+    <message>
+        <source>Export Numbers</source>
+        <translation>Zahlen exportieren</translation>
+    </message>
+    <message>
+        <source>JSON file (*.json)</source>
+        <translation>JSON-Datei (*.json)</translation>
+    </message>
+    <message>
+        <source>CSV table (*.csv)</source>
+        <translation>CSV-Tabelle (*.csv)</translation>
+    </message>
+    <message>
+        <source>The numbers are on the clipboard.</source>
+        <translation>Die Zahlen sind in der Zwischenablage.</translation>
+    </message>
+    <message>
+        <source>The value %1 is on the clipboard.</source>
+        <translation>Der Wert %1 ist in der Zwischenablage.</translation>
+    </message>
+</context>
+<context>
+    <name>PageControl</name>
+    <message>
+        <source>Previous page</source>
+        <translation>Vorige Seite</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Page number</source>
+        <translation>Seitennummer</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <translation>von %1</translation>
+    </message>
+</context>
+<context>
+    <name>PictureCommands</name>
+    <message>
+        <source>The window is on the clipboard.</source>
+        <translation>Das Fenster ist in der Zwischenablage.</translation>
+    </message>
+    <message>
+        <source>The canvas is on the clipboard.</source>
+        <translation>Die Zeichenfläche ist in der Zwischenablage.</translation>
     </message>
     <message>
         <source>Save Screenshot</source>
         <translation>Bildschirmfoto speichern</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>Save Visible Part</source>
+        <translation>Sichtbaren Teil speichern</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the picture.</source>
+        <translation>Für das Bild reicht der Speicher nicht.</translation>
     </message>
     <message>
         <source>PNG picture (*.png)</source>
@@ -434,10 +711,187 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
     </message>
 </context>
 <context>
+    <name>PrintCommand</name>
+    <message>
+        <source>The page is printed.</source>
+        <translation>Die Seite ist gedruckt.</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>The printer or its file takes no pages.</source>
+        <translation>Der Drucker oder seine Datei nimmt keine Seiten an.</translation>
+    </message>
+    <message>
+        <source>No Printer: Save as PDF</source>
+        <translation>Kein Drucker: Als PDF speichern</translation>
+    </message>
+    <message>
+        <source>PDF document (*.pdf)</source>
+        <translation>PDF-Dokument (*.pdf)</translation>
+    </message>
+</context>
+<context>
+    <name>RegionCommands</name>
+    <message>
+        <source>DS9 regions (*.reg)</source>
+        <translation>DS9-Regionen (*.reg)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
+        <translation>&amp;Wiederholen: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>New Region</source>
+        <translation>Neue ROI</translation>
+    </message>
+    <message>
+        <source>ROI %1</source>
+        <translation>ROI %1</translation>
+    </message>
+    <message>
+        <source>Save Regions</source>
+        <translation>ROIs speichern</translation>
+    </message>
+    <message>
+        <source>Load Regions</source>
+        <translation>ROIs laden</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Not all of %1 is loaded. Left out: %2.</source>
+        <translation>%1 ist nicht vollständig geladen. Es fehlen: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>RegionDialog</name>
+    <message>
+        <source>&amp;X:</source>
+        <translation>&amp;X:</translation>
+    </message>
+    <message>
+        <source>&amp;Y:</source>
+        <translation>&amp;Y:</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>&amp;Breite:</translation>
+    </message>
+    <message>
+        <source>&amp;Height:</source>
+        <translation>&amp;Höhe:</translation>
+    </message>
+    <message>
+        <source>Pixels of the image (%1 × %2), counted from 0 at its top left.
+The panel counts Y from the bottom row.</source>
+        <translation>Pixel des Bildes (%1 × %2), von links oben ab 0 gezählt.
+Das Bedienfeld zählt Y von der untersten Zeile an.</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>X + width is %1, the image is %2 pixels wide.</source>
+        <translation>X + Breite ist %1, das Bild ist %2 Pixel breit.</translation>
+    </message>
+    <message>
+        <source>Y + height is %1, the image is %2 pixels high.</source>
+        <translation>Y + Höhe ist %1, das Bild ist %2 Pixel hoch.</translation>
+    </message>
+</context>
+<context>
+    <name>RegionFile</name>
+    <message>
+        <source>it is not a file</source>
+        <translation>es ist keine Datei</translation>
+    </message>
+    <message>
+        <source>it is larger than 16 MiB</source>
+        <translation>sie ist größer als 16 MiB</translation>
+    </message>
+    <message>
+        <source>shapes other than upright boxes (%1)</source>
+        <translation>andere Formen als aufrechte Rechtecke (%1)</translation>
+    </message>
+    <message>
+        <source>shapes in other than image coordinates (%1)</source>
+        <translation>Formen in anderen als Bildkoordinaten (%1)</translation>
+    </message>
+    <message>
+        <source>boxes not inside the image (%1)</source>
+        <translation>Rechtecke außerhalb des Bildes (%1)</translation>
+    </message>
+    <message>
+        <source>lines that cannot be read (%1)</source>
+        <translation>unlesbare Zeilen (%1)</translation>
+    </message>
+    <message>
+        <source>%1: cannot be read: %2</source>
+        <translation>%1: kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1: there is no region in it</source>
+        <translation>%1: enthält keine ROI</translation>
+    </message>
+    <message>
+        <source>%1: there is no region in it that can be used: %2</source>
+        <translation>%1: enthält keine verwendbare ROI: %2</translation>
+    </message>
+    <message>
+        <source>%1: cannot be written: %2</source>
+        <translation>%1: kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>RegionHistory</name>
+    <message>
+        <source>Add Region</source>
+        <translation>ROI hinzufügen</translation>
+    </message>
+    <message>
+        <source>Delete Region</source>
+        <translation>ROI löschen</translation>
+    </message>
+    <message>
+        <source>Move Region</source>
+        <translation>ROI verschieben</translation>
+    </message>
+    <message>
+        <source>Resize Region</source>
+        <translation>ROI-Größe ändern</translation>
+    </message>
+    <message>
+        <source>Change Regions</source>
+        <translation>ROIs ändern</translation>
+    </message>
+</context>
+<context>
     <name>Screenshot</name>
     <message>
         <source>the window is at least %1x%2 pixels</source>
         <translation>das Fenster hat mindestens %1x%2 Pixel</translation>
+    </message>
+    <message>
+        <source>%1: left out: %2</source>
+        <translation>%1: es fehlen: %2</translation>
     </message>
 </context>
 <context>
@@ -461,6 +915,41 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
     <message>
         <source>Loading %1...</source>
         <translation>%1 wird geladen...</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Pixel under the pointer and its value</source>
+        <translation>Pixel unter dem Mauszeiger und sein Wert</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>The next image opens with palette, axes, view, peaks and regions of this one (View &gt; Keep Settings)</source>
+        <translation>Das nächste Bild öffnet sich mit Palette, Achsen, Ansicht, Peaks und ROIs von diesem (Ansicht &gt; Einstellungen behalten)</translation>
+    </message>
+    <message>
+        <source>Saved as %1</source>
+        <translation>Gespeichert als %1</translation>
+    </message>
+    <message>
+        <source>Settings kept</source>
+        <translation>Einstellungen bleiben</translation>
+    </message>
+</context>
+<context>
+    <name>UserGuide</name>
+    <message>
+        <source>User Guide</source>
+        <translation>Benutzerhandbuch</translation>
+    </message>
+    <message>
+        <source>The user guide is not there: it belongs into the folder %1.</source>
+        <translation>Das Benutzerhandbuch fehlt: Es gehört in den Ordner %1.</translation>
     </message>
 </context>
 <context>
@@ -617,6 +1106,90 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
         <source>&amp;Delete Region</source>
         <translation>ROI &amp;löschen</translation>
     </message>
+    <message>
+        <source>Next P&amp;age</source>
+        <translation>Nächste S&amp;eite</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Page</source>
+        <translation>Vorige Sei&amp;te</translation>
+    </message>
+    <message>
+        <source>Save P&amp;icture...</source>
+        <translation>B&amp;ild speichern...</translation>
+    </message>
+    <message>
+        <source>Save &amp;Visible Part...</source>
+        <translation>Sichtbaren &amp;Teil speichern...</translation>
+    </message>
+    <message>
+        <source>&amp;Export Numbers...</source>
+        <translation>Zahlen &amp;exportieren...</translation>
+    </message>
+    <message>
+        <source>Prin&amp;t...</source>
+        <translation>&amp;Drucken...</translation>
+    </message>
+    <message>
+        <source>Copy Window or Value</source>
+        <translation>Fenster oder Wert kopieren</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Numbers...</source>
+        <translation>Za&amp;hlen kopieren...</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Value</source>
+        <translation>&amp;Wert kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Regions</source>
+        <translation>&amp;ROIs</translation>
+    </message>
+    <message>
+        <source>&amp;Add Region</source>
+        <translation>ROI &amp;hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Region by &amp;Numbers...</source>
+        <translation>ROI mit &amp;Zahlen hinzufügen...</translation>
+    </message>
+    <message>
+        <source>Add by Numbers</source>
+        <translation>Mit Zahlen hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Numbers...</source>
+        <translation>Zahlen &amp;bearbeiten...</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Save Regions...</source>
+        <translation>ROIs &amp;speichern...</translation>
+    </message>
+    <message>
+        <source>&amp;Load Regions...</source>
+        <translation>ROIs la&amp;den...</translation>
+    </message>
+    <message>
+        <source>&amp;Whole Image</source>
+        <translation>&amp;Ganzes Bild</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Settings</source>
+        <translation>&amp;Einstellungen behalten</translation>
+    </message>
+    <message>
+        <source>User &amp;Guide</source>
+        <translation>&amp;Benutzerhandbuch</translation>
+    </message>
 </context>
 <context>
     <name>ViewerWindow</name>
@@ -645,32 +1218,8 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
         <translation>Das ist das erste Bild im Ordner.</translation>
     </message>
     <message>
-        <source>The window is on the clipboard.</source>
-        <translation>Das Fenster ist in der Zwischenablage.</translation>
-    </message>
-    <message>
-        <source>The canvas is on the clipboard.</source>
-        <translation>Die Zeichenfläche ist in der Zwischenablage.</translation>
-    </message>
-    <message>
-        <source>Save Screenshot</source>
-        <translation>Bildschirmfoto speichern</translation>
-    </message>
-    <message>
-        <source>The screenshot is saved.</source>
-        <translation>Das Bildschirmfoto ist gespeichert.</translation>
-    </message>
-    <message>
         <source>About VKIntensity Viewer</source>
         <translation>Über VKIntensity Viewer</translation>
-    </message>
-    <message>
-        <source>VKIntensity Viewer %1
-
-Shows what is in a camera image: profiles, charts with labelled peaks, regions of interest and their statistics.</source>
-        <translation>VKIntensity Viewer %1
-
-Zeigt, was in einem Kamerabild steckt: Profile, Diagramme mit beschrifteten Peaks, ROIs und ihre Statistik.</translation>
     </message>
     <message>
         <source>The palette %1 cannot be read.</source>
