@@ -1108,11 +1108,11 @@ Das Bedienfeld zählt Y von der untersten Zeile an.</translation>
     </message>
     <message>
         <source>Next P&amp;age</source>
-        <translation>Nächste S&amp;eite</translation>
+        <translation>Näc&amp;hste Seite</translation>
     </message>
     <message>
-        <source>Pre&amp;vious Page</source>
-        <translation>Vorige Sei&amp;te</translation>
+        <source>Previo&amp;us Page</source>
+        <translation>Vo&amp;rige Seite</translation>
     </message>
     <message>
         <source>Save P&amp;icture...</source>
@@ -1188,7 +1188,7 @@ Das Bedienfeld zählt Y von der untersten Zeile an.</translation>
     </message>
     <message>
         <source>User &amp;Guide</source>
-        <translation>&amp;Benutzerhandbuch</translation>
+        <translation>Benutzer&amp;handbuch</translation>
     </message>
 </context>
 <context>

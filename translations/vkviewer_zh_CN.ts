@@ -1109,8 +1109,8 @@ The panel counts Y from the bottom row.</source>
         <translation>下一页(&amp;A)</translation>
     </message>
     <message>
-        <source>Pre&amp;vious Page</source>
-        <translation>上一页(&amp;V)</translation>
+        <source>Previo&amp;us Page</source>
+        <translation>上一页(&amp;U)</translation>
     </message>
     <message>
         <source>Save P&amp;icture...</source>

@@ -75,7 +75,7 @@ void ViewerMenu::buildFileMenu()
         { QKeySequence("PgUp") }, Needs::File);
     add(menu, ViewerCommand::NextPage, "actionNextPage", tr("Next P&age"),
         { QKeySequence("Ctrl+PgDown") });
-    add(menu, ViewerCommand::PreviousPage, "actionPreviousPage", tr("Pre&vious Page"),
+    add(menu, ViewerCommand::PreviousPage, "actionPreviousPage", tr("Previo&us Page"),
         { QKeySequence("Ctrl+PgUp") });
     add(menu, ViewerCommand::Reload, "actionReload", tr("Re&load"), { QKeySequence("F5") });
     menu->addSeparator();

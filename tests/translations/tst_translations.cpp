@@ -219,12 +219,14 @@ void TestTranslations::window_speaksTheLanguage_data()
     QTest::addColumn<QString>("status");
     QTest::addColumn<QString>("help"); // one line of it, without its access key
     QTest::newRow("German") << "de_DE"
-                            << QStringList { "&Datei", "&Bearbeiten", "&Ansicht", "&Hilfe" }
+                            << QStringList { "&Datei", "&Bearbeiten", "&ROIs", "&Ansicht",
+                                   "&Hilfe" }
                             << "Kein Bild" << QString::fromUtf8("Ordner öffnen");
     QTest::newRow("Simplified Chinese")
         << "zh_CN"
         << QStringList { QString::fromUtf8("文件(&F)"), QString::fromUtf8("编辑(&E)"),
-               QString::fromUtf8("视图(&V)"), QString::fromUtf8("帮助(&H)") }
+               QString::fromUtf8("区域(&R)"), QString::fromUtf8("视图(&V)"),
+               QString::fromUtf8("帮助(&H)") }
         << QString::fromUtf8("没有图像") << QString::fromUtf8("打开文件夹");
 }
 

@@ -69,7 +69,7 @@ void TestKeepSettings::press(const char* keys) const
 void TestKeepSettings::chooseByMouse() const
 {
     QMenuBar* bar = m_viewer->window->menuBar();
-    QAction* title = bar->actions()[2];
+    QAction* title = bar->actions()[3];
     QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->actionGeometry(title).center());
     QAction* entry = m_viewer->action("actionKeepSettings");
     QTest::mouseClick(title->menu(), Qt::LeftButton, Qt::NoModifier,

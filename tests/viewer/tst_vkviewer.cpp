@@ -130,7 +130,7 @@ QString TestVkviewer::written(const QString& name, const QByteArray& bytes)
 void TestVkviewer::help()
 {
     QCOMPARE(run({ "--help" }, { { "QT_QPA_PLATFORM", "no such platform" } }), 0);
-    QVERIFY(m_output.startsWith("Usage: vkviewer [IMAGE | FOLDER]\n"));
+    QVERIFY(m_output.startsWith("Usage: vkviewer [--page N] [IMAGE | FOLDER]\n"));
     QVERIFY(m_errors.isEmpty());
 }
 
