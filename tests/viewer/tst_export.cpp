@@ -338,14 +338,14 @@ void TestExport::json()
         QCOMPARE(int(object[name].toArray().size()), filled == name ? 1 : 0);
     }
     QCOMPARE(object["histogram"].isObject(), filled == "histogram");
-    const QJsonObject region = object["regions"].toArray()[0].toObject();
+    const QJsonObject region = object["regions"].toArray().at(0).toObject();
     QCOMPARE(region["histogram"].isObject(), kind == "exportRegionHistogram");
     QCOMPARE(region["pixels"].toInt(), filled == "regions" ? 8 : 0);
-    const QJsonObject row = object["rows"].toArray()[0].toObject();
+    const QJsonObject row = object["rows"].toArray().at(0).toObject();
     QCOMPARE(row["peaks"].isArray(), kind == "exportRowPeaks");
     QCOMPARE(row["index"].toInt(), filled == "rows" ? 20 : 0);
     QCOMPARE(
-        object["columns"].toArray()[0].toObject()["index"].toInt(), filled == "columns" ? 10 : 0);
+        object["columns"].toArray().at(0).toObject()["index"].toInt(), filled == "columns" ? 10 : 0);
 }
 
 /// Return copies at once.
