@@ -344,8 +344,8 @@ void TestExport::json()
     const QJsonObject row = object["rows"].toArray().at(0).toObject();
     QCOMPARE(row["peaks"].isArray(), kind == "exportRowPeaks");
     QCOMPARE(row["index"].toInt(), filled == "rows" ? 20 : 0);
-    QCOMPARE(
-        object["columns"].toArray().at(0).toObject()["index"].toInt(), filled == "columns" ? 10 : 0);
+    QCOMPARE(object["columns"].toArray().at(0).toObject()["index"].toInt(),
+        filled == "columns" ? 10 : 0);
 }
 
 /// Return copies at once.
