@@ -13,12 +13,12 @@ using CreateLoader = ImageLoadBase* (*)();
 struct Codecs
 {
     Codecs()
-        : library(QCoreApplication::applicationDirPath() + "/vkmeasurecodecs")
-        , create(reinterpret_cast<CreateLoader>(library.resolve("vkmeasureCreateLoader")))
+        : module(QCoreApplication::applicationDirPath() + "/vkmeasurecodecs")
+        , create(reinterpret_cast<CreateLoader>(module.resolve("vkmeasureCreateLoader")))
     {
     }
 
-    QLibrary library; ///< stays loaded
+    QLibrary module; ///< stays loaded
     CreateLoader create; ///< null without the module
 };
 
@@ -47,6 +47,5 @@ bool PictureLoader::load(ImageData* image)
 
 QString PictureLoader::moduleProblem()
 {
-    return codecs().create ? QString()
-                           : "the codecs are missing: " + codecs().library.errorString();
+    return codecs().create ? QString() : "the codecs are missing: " + codecs().module.errorString();
 }
