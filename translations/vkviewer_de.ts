@@ -430,6 +430,13 @@ von einem ORDNER werden die Bilder in einer Galerie gezeigt.
     </message>
 </context>
 <context>
+    <name>ImageCommands</name>
+    <message>
+        <source>The palette %1 cannot be read.</source>
+        <translation>Die Palette %1 ist nicht lesbar.</translation>
+    </message>
+</context>
+<context>
     <name>ImageFiles</name>
     <message>
         <source>Images (%1)</source>
@@ -1220,10 +1227,6 @@ Das Bedienfeld zählt Y von der untersten Zeile an.</translation>
     <message>
         <source>About VKIntensity Viewer</source>
         <translation>Über VKIntensity Viewer</translation>
-    </message>
-    <message>
-        <source>The palette %1 cannot be read.</source>
-        <translation>Die Palette %1 ist nicht lesbar.</translation>
     </message>
     <message>
         <source>Not all is as before: %1.</source>

@@ -428,6 +428,13 @@ its images are shown in a gallery.
     </message>
 </context>
 <context>
+    <name>ImageCommands</name>
+    <message>
+        <source>The palette %1 cannot be read.</source>
+        <translation>无法读取调色板 %1。</translation>
+    </message>
+</context>
+<context>
     <name>ImageFiles</name>
     <message>
         <source>Images (%1)</source>
@@ -1218,10 +1225,6 @@ The panel counts Y from the bottom row.</source>
     <message>
         <source>About VKIntensity Viewer</source>
         <translation>关于 VKIntensity Viewer</translation>
-    </message>
-    <message>
-        <source>The palette %1 cannot be read.</source>
-        <translation>无法读取调色板 %1。</translation>
     </message>
     <message>
         <source>Not all is as before: %1.</source>

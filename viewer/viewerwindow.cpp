@@ -6,6 +6,7 @@
 #include "filedrop.h"
 #include "gallerypage.h"
 #include "helpoverlay.h"
+#include "imagecommands.h"
 #include "imagedocument.h"
 #include "imagefiles.h"
 #include "imagepage.h"
@@ -36,8 +37,6 @@
 #include <QSettings>
 #include <QStackedWidget>
 #include <QTimer>
-
-#include <functional>
 
 namespace {
 
@@ -98,40 +97,14 @@ void ViewerWindow::createMenu()
         connect(m_menu->action(command), &QAction::triggered, this, slot);
     }
     connect(m_menu, &ViewerMenu::recentFileChosen, this, &ViewerWindow::openRecentFile);
-    connectImage();
+    updateRecentFiles();
+    connect(m_imagePage, &ImagePage::displayChanged, this, &ViewerWindow::updateMenu);
+    new ImageCommands(m_menu, m_imagePage, m_status);
+    new CrossHairKeys(m_imagePage);
+    m_regions = new RegionCommands(m_menu, m_imagePage);
     new PictureCommands(this, *m_menu, m_imagePage, m_status);
     new NumberCommands(this, m_menu, m_imagePage, m_status);
     new PrintCommand(this, *m_menu, m_imagePage, m_status);
-}
-
-/// What the menus do to the image in front.
-void ViewerWindow::connectImage()
-{
-    using Widget = CVKIntensityWidget;
-    const QVector<QPair<ViewerCommand, std::function<void(Widget*)>>> commands {
-        { ViewerCommand::ZoomIn, [](Widget* image) { image->zoomIn(); } },
-        { ViewerCommand::ZoomOut, [](Widget* image) { image->zoomOut(); } },
-        { ViewerCommand::Fit, [](Widget* image) { image->fit(); } },
-        { ViewerCommand::ImageView, [](Widget* image) { image->setView(Widget::View::Image); } },
-        { ViewerCommand::RowChart, [](Widget* image) { image->setView(Widget::View::RowChart); } },
-        { ViewerCommand::ColumnChart,
-            [](Widget* image) { image->setView(Widget::View::ColumnChart); } },
-    };
-    for (const auto& [command, call] : commands) {
-        connect(m_menu->action(command), &QAction::triggered, m_imagePage,
-            [page = m_imagePage, call = call] { call(page->intensityWidget()); });
-    }
-    connect(m_menu, &ViewerMenu::paletteChosen, this, &ViewerWindow::choosePalette);
-    connect(m_imagePage, &ImagePage::displayChanged, this, &ViewerWindow::updateMenu);
-    m_regions = new RegionCommands(m_menu, m_imagePage);
-    new CrossHairKeys(m_imagePage);
-}
-
-void ViewerWindow::choosePalette(const QString& name)
-{
-    if (!m_imagePage->intensityWidget()->setColorPalette(name)) {
-        m_status->tell(tr("The palette %1 cannot be read.").arg(name));
-    }
 }
 
 void ViewerWindow::createPages()
@@ -161,7 +134,7 @@ bool ViewerWindow::restoreSession(std::unique_ptr<QSettings> settings)
     m_session.open(std::move(settings));
     m_folder = m_session.folder();
     m_settingsKeeper->restore();
-    updateMenu();
+    updateRecentFiles();
     const bool restored = restoreGeometry(m_session.geometry());
     setWindowState(windowState() & ~Qt::WindowFullScreen); // nobody expects to start without a menu
     return restored;
@@ -185,6 +158,10 @@ void ViewerWindow::updateMenu()
     m_menu->action(ViewerCommand::Reload)->setEnabled(isFile || page == m_galleryPage);
     m_menu->setZoomAvailable(isImage && view == CVKIntensityWidget::View::Image);
     m_menu->markView(view);
+}
+
+void ViewerWindow::updateRecentFiles()
+{
     const RecentFiles& files = m_session.recentFiles();
     QStringList recent;
     for (int i = 0; i < files.paths().size(); ++i) {
@@ -219,6 +196,7 @@ void ViewerWindow::showImage(qint64 milliseconds, const QString& problem)
 {
     m_status->hideProgress();
     m_session.addRecentFile(m_document->file());
+    updateRecentFiles();
     updateMenu();
     nameFile();
     m_status->showImage(imageSummary(m_imagePage->intensityWidget()->imageInfo()), milliseconds);
@@ -404,7 +382,7 @@ void ViewerWindow::openRecentFile(int index)
     const QFileInfo file(path);
     if (!file.exists() && file.dir().exists()) { // else its drive may just be away
         m_session.removeRecentFile(path);
-        updateMenu();
+        updateRecentFiles();
     }
     if (!path.isEmpty()) {
         openSoon(path);
@@ -414,7 +392,7 @@ void ViewerWindow::openRecentFile(int index)
 void ViewerWindow::clearRecentFiles()
 {
     m_session.clearRecentFiles();
-    updateMenu();
+    updateRecentFiles();
 }
 
 void ViewerWindow::toggleFullScreen()

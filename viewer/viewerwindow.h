@@ -101,13 +101,12 @@ protected:
 private:
     void createPages();
     void createMenu();
-    void connectImage();
-    void choosePalette(const QString& name);
     void openSoon(const QString& path);
     void connectDocument();
     void updateBars();
     void showPage(QWidget* page);
     void updateMenu();
+    void updateRecentFiles();
     void showWelcome();
     void startLoad();
     void showProgress(int percent);
